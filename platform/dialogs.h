@@ -1,0 +1,54 @@
+// Dialogs of static texts and push buttons, made from a template.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/colour.h"
+#include "base/geometry.h"
+#include "base/text.h"
+
+namespace orvane {
+
+enum class Align { kLeft, kCentre, kRight };
+
+struct DialogText {
+  Rect rect;  // in the dialog
+  Text text;
+  Text face;
+  int points = 0;
+  bool bold = false;
+  Align align = Align::kLeft;
+  Colour colour = kBlack;
+};
+
+struct DialogButton {
+  Rect rect;
+  Text label;
+  int id = 0;
+};
+
+struct DialogTemplate {
+  std::string name;  // as reports name it: "about", "loading"
+  Rect rect;         // on the screen
+  Colour background = kWhite;
+  std::vector<DialogText> texts;
+  std::vector<DialogButton> buttons;
+};
+
+using DialogHandle = int;
+inline constexpr DialogHandle kNoDialog = 0;
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual DialogHandle Create(const DialogTemplate& dialogTemplate) = 0;  // hidden and modeless
+  virtual void Show(DialogHandle dialog, bool visible) = 0;
+  virtual void Destroy(DialogHandle dialog) = 0;
+  // Shows a dialog that takes all input until one of its buttons (or Enter, Escape) closes it.
+  virtual DialogHandle ShowModal(const DialogTemplate& dialogTemplate) = 0;
+  virtual std::string FrontName() const = 0;  // the topmost visible dialog, "" when there is none
+  virtual bool DismissFront() = 0;            // presses the first button of the open modal dialog
+};
+
+}  // namespace orvane

@@ -1,0 +1,22 @@
+// The open pop-up menu. It does not hold up the caller: the choice arrives later as WM_COMMAND at the owner.
+#pragma once
+
+#include "platform/menu.h"
+#include "platform/messages.h"
+
+namespace orvane {
+
+class PopupMenus {
+ public:
+  virtual ~PopupMenus() = default;
+  // Shows a copy of the menu with its bottom left corner at the screen point, moved as far as needed to stand
+  // on the screen; a menu taller than the screen scrolls. Replaces an open menu. An empty menu shows nothing.
+  virtual void Track(const Menu& menu, Point bottomLeft, WindowHandle owner) = 0;
+  virtual void Close() = 0;
+  virtual bool Open() const = 0;
+  virtual const Menu& Current() const = 0;       // the open menu's entries; empty when none is open
+  virtual Point Anchor() const = 0;              // as given to Track
+  virtual bool ChooseLabel(TextView label) = 0;  // false when absent, disabled or a separator
+};
+
+}  // namespace orvane
