@@ -4,6 +4,10 @@
 function(orvane_flags target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion
                                            -Wnon-virtual-dtor -Woverloaded-virtual)
+  # GCC 12 warns of an overlap in every "literal" + std::string (its bug 105651).
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
   target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
   if(ORVANE_SANITIZE)
     target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-sanitize-recover=all
