@@ -1,0 +1,340 @@
+#include "content/elements_source.h"
+
+#include <algorithm>
+
+#include "content/cell_text.h"
+#include "content/dat_writer.h"
+
+namespace orvane {
+
+namespace {
+
+// The widths of the fixed fields of the program's records, without their terminating zero.
+constexpr std::size_t kMaxCategoryName = 255;
+constexpr std::size_t kMaxPropertyName = 149;
+constexpr std::size_t kMaxUnits = 50;
+constexpr int kMaxId = 32767;
+
+constexpr int kSymbolId = 0;
+constexpr int kMassId = 2;
+constexpr int kSpecialIds = 5;  // symbol, name, atomic mass, family, block: ids 0 to 4
+
+constexpr std::size_t kFirstProperty = 2;  // behind the element's number and symbol
+constexpr std::string_view kNone = "-";
+
+const char* const kHeaderKeys[] = {"category", "id", "name", "units", "plot", "source"};
+enum HeaderRow { kCategoryRow, kIdRow, kNameRow, kUnitsRow, kPlotRow, kSourceRow, kHeaderRows };
+
+std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
+// A decimal number of at most five digits, or -1.
+int SmallNumber(std::string_view text) {
+  if (text.empty() || text.size() > 5) return -1;
+  int value = 0;
+  for (const char c : text) {
+    if (c < '0' || c > '9') return -1;
+    value = value * 10 + (c - '0');
+  }
+  return value;
+}
+
+// Reads one table into a category, reporting as it goes.
+class CategoryReader {
+ public:
+  CategoryReader(const Table& table, const std::set<std::string>& sourceKeys,
+                 std::vector<TableProblem>& problems)
+      : table_(table), sourceKeys_(sourceKeys), problems_(problems) {}
+
+  CategorySource Run() {
+    if (!HeaderStands()) return {};
+    ReadCategoryName();
+    width_ = table_.rows[kIdRow].cells.size();
+    if (width_ <= kFirstProperty) {
+      Add(table_.rows[kIdRow], 0, "a table needs at least one property");
+      return {};
+    }
+    category_.properties.resize(width_ - kFirstProperty);
+    for (std::size_t row = kIdRow; row < kHeaderRows; ++row) ReadHeaderRow(static_cast<HeaderRow>(row));
+    for (std::size_t row = kHeaderRows; row < table_.rows.size(); ++row) ReadElementRow(table_.rows[row]);
+    ReportMissingElements();
+    return category_;
+  }
+
+ private:
+  // `column` counts from 0, as the cells do; -1 stands for the whole line.
+  void AddAt(const TableRow& row, int column, std::string message) {
+    problems_.push_back({table_.file, row.line, column + 1, std::move(message)});
+  }
+  void Add(const TableRow& row, std::size_t column, std::string message) {
+    AddAt(row, static_cast<int>(column), std::move(message));
+  }
+
+  bool HeaderStands() {
+    for (std::size_t row = 0; row < kHeaderRows; ++row) {
+      const std::string wanted = "expected the header line " + Quoted(kHeaderKeys[row]);
+      if (row >= table_.rows.size()) {
+        problems_.push_back({table_.file, 0, 0, "the file ends too early: " + wanted});
+        return false;
+      }
+      if (table_.rows[row].cells[0] != kHeaderKeys[row]) {
+        Add(table_.rows[row], 0, wanted);
+        return false;
+      }
+    }
+    return true;
+  }
+
+  bool HasWidth(const TableRow& row, std::size_t width) {
+    if (row.cells.size() == width) return true;
+    Add(row, std::min(row.cells.size(), width),
+        std::to_string(row.cells.size()) + " columns where " + std::to_string(width) + " are due");
+    return false;
+  }
+
+  void ReadCategoryName() {
+    const TableRow& row = table_.rows[kCategoryRow];
+    if (HasWidth(row, 2)) category_.name = FieldText(row, 1, row.cells[1], kMaxCategoryName);
+  }
+
+  // The text of a name or units cell, within the field that the program keeps it in.
+  Text FieldText(const TableRow& row, std::size_t column, std::string_view cell, std::size_t limit) {
+    CellText parsed = ParseCellText(cell);
+    if (!parsed.problem.empty()) {
+      Add(row, column, parsed.problem);
+      return {};
+    }
+    if (parsed.text.empty()) Add(row, column, "an empty text");
+    if (parsed.text.size() > limit) {
+      Add(row, column,
+          std::to_string(parsed.text.size()) + " characters where at most " + std::to_string(limit) + " fit");
+    }
+    return parsed.text;
+  }
+
+  void ReadHeaderRow(HeaderRow which) {
+    const TableRow& row = table_.rows[which];
+    if (!HasWidth(row, width_)) return;
+    if (row.cells[1] != kNone) Add(row, 1, "expected - above the symbols");
+    for (std::size_t column = kFirstProperty; column < width_; ++column) {
+      PropertySource& property = category_.properties[column - kFirstProperty];
+      if (which == kIdRow) ReadId(row, column, property);
+      if (which == kNameRow) ReadName(row, column, property);
+      if (which == kUnitsRow) ReadUnits(row, column, property);
+      if (which == kPlotRow) ReadPlot(row, column, property);
+      if (which == kSourceRow) ReadSource(row, column, property);
+    }
+  }
+
+  void ReadId(const TableRow& row, std::size_t column, PropertySource& property) {
+    property.id = SmallNumber(row.cells[column]);
+    if (property.id < 0 || property.id > kMaxId)
+      Add(row, column, "a property id is a number from 0 to 32767");
+  }
+
+  void ReadName(const TableRow& row, std::size_t column, PropertySource& property) {
+    property.name =
+        NotBlankEdged(row, column) ? FieldText(row, column, row.cells[column], kMaxPropertyName) : Text();
+    for (std::size_t i = 0; i < column - kFirstProperty; ++i) {
+      if (category_.properties[i].name == property.name && !property.name.empty()) {
+        Add(row, column, "the category already has a property " + Quoted(row.cells[column]));
+      }
+    }
+  }
+
+  void ReadUnits(const TableRow& row, std::size_t column, PropertySource& property) {
+    const std::string_view cell = row.cells[column];
+    if (cell == kNone) return;
+    if (cell.size() < 2 || cell.front() != '"' || cell.back() != '"') {
+      return Add(row, column, "units stand in double quotes, \" pm\", or are -");
+    }
+    property.units = FieldText(row, column, cell.substr(1, cell.size() - 2), kMaxUnits);
+  }
+
+  void ReadPlot(const TableRow& row, std::size_t column, PropertySource& property) {
+    const std::string& cell = row.cells[column];
+    if (cell != "yes" && cell != "no") return Add(row, column, "expected yes or no");
+    property.plottable = cell == "yes";
+    // The plot reads a number with its units behind it, digit by digit.
+    const bool hasDigit = std::any_of(property.units.begin(), property.units.end(), IsAsciiDigit);
+    if (property.plottable && hasDigit)
+      Add(row, column, "the units of a plottable property cannot hold digits");
+  }
+
+  void ReadSource(const TableRow& row, std::size_t column, PropertySource& property) {
+    const std::string& cell = row.cells[column];
+    if (cell == kNone) return;
+    property.source = cell;
+    CheckSourceKey(row, column, cell);
+  }
+
+  void CheckSourceKey(const TableRow& row, std::size_t column, const std::string& key) {
+    if (sourceKeys_.count(key) == 0) Add(row, column, "no source " + Quoted(key) + " is described");
+  }
+
+  void ReadElementRow(const TableRow& row) {
+    const int number = SmallNumber(row.cells[0]);
+    if (number < 1 || number > kSourceElements) {
+      return Add(row, 0, "no element " + Quoted(row.cells[0]) + ": atomic numbers run from 1 to 112");
+    }
+    const std::size_t slot = static_cast<std::size_t>(number - 1);
+    if (seen_[slot]) return Add(row, 0, "element " + row.cells[0] + " a second time");
+    seen_[slot] = true;
+    if (number <= lastNumber_) Add(row, 0, "elements stand in the order of their atomic numbers");
+    lastNumber_ = number;
+    if (!HasWidth(row, width_)) return;
+    for (std::size_t column = kFirstProperty; column < width_; ++column) {
+      ReadValue(row, column, slot, category_.properties[column - kFirstProperty]);
+    }
+  }
+
+  bool NotBlankEdged(const TableRow& row, std::size_t column) {
+    const std::string& cell = row.cells[column];
+    if (cell.empty()) {
+      Add(row, column, "an empty cell (write - for no value)");
+      return false;
+    }
+    if (cell.front() == ' ' || cell.back() == ' ') {
+      Add(row, column, "a blank at the edge of a cell");
+      return false;
+    }
+    return true;
+  }
+
+  void ReadValue(const TableRow& row, std::size_t column, std::size_t slot, PropertySource& property) {
+    if (!NotBlankEdged(row, column)) return;
+    std::string_view cell = row.cells[column];
+    if (cell == kNone) return;
+    const std::size_t mark = cell.rfind(" @");
+    if (mark != std::string_view::npos) {
+      property.valueSources[slot] = std::string(cell.substr(mark + 2));
+      CheckSourceKey(row, column, property.valueSources[slot]);
+      cell = cell.substr(0, mark);
+    } else if (property.source.empty()) {
+      Add(row, column, "a value without a source: neither its column nor the cell names one");
+    }
+    CellText parsed = ParseCellText(cell);
+    if (!parsed.problem.empty()) return Add(row, column, parsed.problem);
+    CheckValue(row, column, property, parsed.text);
+    property.values[slot] = std::move(parsed.text);
+  }
+
+  void CheckValue(const TableRow& row, std::size_t column, const PropertySource& property, const Text& text) {
+    if (text.empty()) return Add(row, column, "an empty value (write - for no value)");
+    const bool massNumber = property.id == kMassId && IsBracketedMassNumber(text);
+    if (property.plottable && !IsBareDecimal(text) && !massNumber) {
+      Add(row, column, Quoted(ToUtf8(text)) + " is not a bare decimal, as a plottable value must be");
+    }
+    if (DatWriter::EscapedSize(text) > kMaxCountedBytes) {
+      Add(row, column,
+          "a value of " + std::to_string(DatWriter::EscapedSize(text)) + " bytes; at most 65535 fit");
+    }
+  }
+
+  void ReportMissingElements() {
+    for (std::size_t slot = 0; slot < seen_.size(); ++slot) {
+      if (seen_[slot]) continue;
+      problems_.push_back({table_.file, 0, 0, "no row for element " + std::to_string(slot + 1)});
+    }
+  }
+
+  const Table& table_;
+  const std::set<std::string>& sourceKeys_;
+  std::vector<TableProblem>& problems_;
+  CategorySource category_;
+  std::size_t width_ = 0;
+  std::array<bool, kSourceElements> seen_{};
+  int lastNumber_ = 0;
+};
+
+const PropertySource* FindProperty(const ElementsSource& source, int id) {
+  for (const CategorySource& category : source.categories) {
+    for (const PropertySource& property : category.properties) {
+      if (property.id == id) return &property;
+    }
+  }
+  return nullptr;
+}
+
+void CheckIds(const std::vector<Table>& tables, const ElementsSource& source,
+              std::vector<TableProblem>& problems) {
+  std::set<int> seen;
+  for (std::size_t c = 0; c < source.categories.size(); ++c) {
+    const std::vector<PropertySource>& properties = source.categories[c].properties;
+    for (std::size_t v = 0; v < properties.size(); ++v) {
+      if (properties[v].id < 0 || seen.insert(properties[v].id).second) continue;
+      problems.push_back({tables[c].file, tables[c].rows[kIdRow].line,
+                          static_cast<int>(v + kFirstProperty) + 1,
+                          "property id " + std::to_string(properties[v].id) + " a second time"});
+    }
+  }
+  for (int id = 0; id < kSpecialIds; ++id) {
+    if (seen.count(id) == 0) {
+      problems.push_back(
+          {tables.empty() ? "tables" : tables[0].file, 0, 0,
+           "no column has id " + std::to_string(id) + ", which the program cannot do without"});
+    }
+  }
+}
+
+// The second column of every table repeats the symbol for orientation; it must be the one of the symbol
+// property.
+void CheckSymbols(const std::vector<Table>& tables, const ElementsSource& source,
+                  std::vector<TableProblem>& problems) {
+  const PropertySource* symbols = FindProperty(source, kSymbolId);
+  if (symbols == nullptr) return;
+  for (const Table& table : tables) {
+    for (std::size_t row = kHeaderRows; row < table.rows.size(); ++row) {
+      const std::vector<std::string>& cells = table.rows[row].cells;
+      const int number = SmallNumber(cells[0]);
+      if (number < 1 || number > kSourceElements || cells.size() < kFirstProperty) continue;
+      const std::optional<Text>& symbol = symbols->values[static_cast<std::size_t>(number - 1)];
+      if (!symbol || cells[1] == ToUtf8(*symbol)) continue;
+      problems.push_back({table.file, table.rows[row].line, 2,
+                          "element " + cells[0] + " has the symbol " + Quoted(ToUtf8(*symbol)) + ", not " +
+                              Quoted(cells[1])});
+    }
+  }
+}
+
+}  // namespace
+
+ElementsSource ReadElements(const std::vector<Table>& tables, const std::set<std::string>& sourceKeys,
+                            std::vector<TableProblem>& problems) {
+  ElementsSource source;
+  for (const Table& table : tables) {
+    source.categories.push_back(CategoryReader(table, sourceKeys, problems).Run());
+  }
+  CheckIds(tables, source, problems);
+  CheckSymbols(tables, source, problems);
+  return source;
+}
+
+std::set<std::string> ReadSourceKeys(std::string_view markdown) {
+  constexpr std::string_view kHeading = "## ";
+  std::set<std::string> keys;
+  while (!markdown.empty()) {
+    const std::size_t end = std::min(markdown.find('\n'), markdown.size());
+    const std::string_view line = markdown.substr(0, end);
+    if (line.substr(0, kHeading.size()) == kHeading) keys.emplace(line.substr(kHeading.size()));
+    markdown.remove_prefix(std::min(end + 1, markdown.size()));
+  }
+  return keys;
+}
+
+bool IsBareDecimal(TextView text) {
+  const std::size_t point = text.find(u'.');
+  const TextView whole = text.substr(0, point);
+  const auto digitsOnly = [](TextView part) {
+    return !part.empty() && std::all_of(part.begin(), part.end(), IsAsciiDigit);
+  };
+  if (!digitsOnly(whole) || (whole.size() > 1 && whole[0] == u'0')) return false;
+  return point == TextView::npos || digitsOnly(text.substr(point + 1));
+}
+
+bool IsBracketedMassNumber(TextView text) {
+  if (text.size() < 3 || text.front() != u'[' || text.back() != u']') return false;
+  const TextView number = text.substr(1, text.size() - 2);
+  return IsBareDecimal(number) && number.find(u'.') == TextView::npos;
+}
+
+}  // namespace orvane
