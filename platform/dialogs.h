@@ -1,18 +1,20 @@
-// Dialogs of static texts and push buttons, made from a template.
+// Dialogs of static texts, push buttons, pictures and push buttons, made from a template.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "base/text.h"
+#include "platform/canvas.h"
 
 namespace orvane {
 
 enum class Align { kLeft, kCentre, kRight };
 
-struct DialogText {
+struct DialogLabel {
   Rect rect;  // in the dialog
   Text text;
   Text face;
@@ -22,7 +24,13 @@ struct DialogText {
   Colour colour = kBlack;
 };
 
-struct DialogButton {
+struct DialogPicture {
+  Rect rect;  // of the picture's size
+  std::shared_ptr<const Image> image;
+};
+
+// A push button of a dialog; pressing it closes a modal dialog.
+struct DialogPush {
   Rect rect;
   Text label;
   int id = 0;
@@ -32,8 +40,9 @@ struct DialogTemplate {
   std::string name;  // as reports name it: "about", "loading"
   Rect rect;         // on the screen
   Colour background = kWhite;
-  std::vector<DialogText> texts;
-  std::vector<DialogButton> buttons;
+  std::vector<DialogLabel> labels;
+  std::vector<DialogPush> buttons;
+  std::vector<DialogPicture> pictures;
 };
 
 using DialogHandle = int;
