@@ -1,0 +1,191 @@
+#include "tests/project/documents.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <set>
+
+namespace orvane::project {
+namespace {
+
+struct ForbiddenWord {
+  std::string_view text;  // lower case
+  std::string_view reason;
+};
+
+constexpr std::string_view kUnfinished = "finish it, or say in plain words what is not there";
+constexpr std::string_view kElsewhere = "say what the program does; the reader has no other document";
+constexpr std::string_view kOwnMachine = "a path of one machine means nothing on another";
+
+// Each counts as a whole word: no letter, digit or underscore may touch its ends, except where the text
+// itself begins or ends with another character.
+constexpr std::array<ForbiddenWord, 13> kForbidden = {{
+    {"todo", kUnfinished},
+    {"fixme", kUnfinished},
+    {"xxx", kUnfinished},
+    {"hack", kUnfinished},
+    {"the specification", kElsewhere},
+    {"spec.md", kElsewhere},
+    {"as specified", kElsewhere},
+    {"/work/", kOwnMachine},
+    {"/tmp/", kOwnMachine},
+    {"/root/", kOwnMachine},
+    {"/home/", kOwnMachine},
+    {"/users/", kOwnMachine},
+    {"/mnt/", kOwnMachine},
+}};
+
+// The two files that must name the words, and the one that lists the world's paths for git to ignore.
+bool MayNameThem(const std::string& path) {
+  return path == "tests/project/documents.cpp" || path == "tests/project/documents_test.cpp";
+}
+
+bool IsBinary(std::string_view contents) { return contents.find('\0') != std::string_view::npos; }
+
+bool FoundAt(std::string_view line, std::size_t at, std::string_view word) {
+  const bool startsInside =
+      at > 0 && IsWordCharacter(line[at - 1]) && (IsWordCharacter(word[0]) || word[0] == '/');
+  const std::size_t end = at + word.size();
+  const bool endsInside = end < line.size() && IsWordCharacter(line[end]) && IsWordCharacter(word.back());
+  return !startsInside && !endsInside;
+}
+
+bool Contains(std::string_view line, std::string_view word) {
+  for (std::size_t at = line.find(word); at != std::string_view::npos; at = line.find(word, at + 1)) {
+    if (FoundAt(line, at, word)) return true;
+  }
+  return false;
+}
+
+std::size_t SkipDigits(std::string_view line, std::size_t at) {
+  while (at < line.size() && line[at] >= '0' && line[at] <= '9') ++at;
+  return at;
+}
+
+// "part 2.1": a numbered chapter of a document that is not here.
+bool NamesNumberedPart(std::string_view line) {
+  constexpr std::string_view kPart = "part ";
+  for (std::size_t at = line.find(kPart); at != std::string_view::npos; at = line.find(kPart, at + 1)) {
+    if (at > 0 && IsWordCharacter(line[at - 1])) continue;
+    const std::size_t number = at + kPart.size();
+    const std::size_t dot = SkipDigits(line, number);
+    if (dot > number && dot < line.size() && line[dot] == '.' && SkipDigits(line, dot + 1) > dot + 1)
+      return true;
+  }
+  return false;
+}
+
+// A page's lines with fenced and inline code blanked.
+std::vector<std::string> ProseLines(std::string_view page) {
+  std::vector<std::string> lines = Lines(page);
+  bool fenced = false;
+  for (std::string& line : lines) {
+    const bool fence = StartsWith(line.substr(std::min(line.find_first_not_of(' '), line.size())), "```");
+    if (fence) fenced = !fenced;
+    if (fence || fenced) {
+      line.clear();
+      continue;
+    }
+    bool code = false;
+    for (char& c : line) {
+      if (c == '`') {
+        code = !code;
+      } else if (code) {
+        c = ' ';
+      }
+    }
+  }
+  return lines;
+}
+
+std::set<std::string> Anchors(std::string_view page) {
+  std::set<std::string> anchors;
+  bool fenced = false;
+  for (const std::string& line : Lines(page)) {
+    if (StartsWith(line, "```")) fenced = !fenced;
+    if (!fenced && StartsWith(line, "#")) anchors.insert(HeadingAnchor(line));
+  }
+  return anchors;
+}
+
+bool IsFolder(const FileMap& files, const std::string& path) {
+  const std::string start = path + (EndsWith(path, "/") ? "" : "/");
+  const auto it = files.lower_bound(start);
+  return it != files.end() && StartsWith(it->first, start);
+}
+
+// An empty text when the link leads somewhere, else what is wrong with it.
+std::string FaultOfLink(const FileMap& files, const std::string& page, std::string target) {
+  for (const std::string_view site : {"http://", "https://", "mailto:"}) {
+    if (StartsWith(target, site)) return "";
+  }
+  std::string anchor;
+  if (const std::size_t hash = target.find('#'); hash != std::string::npos) {
+    anchor = target.substr(hash + 1);
+    target.resize(hash);
+  }
+  const std::string path =
+      target.empty()
+          ? page
+          : (std::filesystem::path(page).parent_path() / target).lexically_normal().generic_string();
+  const auto file = files.find(path);
+  if (file == files.end()) return path == "." || IsFolder(files, path) ? "" : "no such file: " + path;
+  if (!anchor.empty() && !Anchors(file->second).contains(anchor)) return path + " has no heading #" + anchor;
+  return "";
+}
+
+}  // namespace
+
+std::string HeadingAnchor(std::string_view heading) {
+  std::string anchor;
+  heading.remove_prefix(std::min(heading.find_first_not_of("# "), heading.size()));
+  for (const char c : AsciiLowered(heading)) {
+    if (c == ' ') {
+      anchor += '-';
+    } else if (IsWordCharacter(c) || c == '-' || static_cast<unsigned char>(c) >= 0x80) {
+      anchor += c;
+    }
+  }
+  return anchor;
+}
+
+Findings CheckLinks(const FileMap& files) {
+  Findings findings;
+  for (const auto& [page, contents] : files) {
+    if (!EndsWith(page, ".md")) continue;
+    int number = 0;
+    for (const std::string& line : ProseLines(contents)) {
+      ++number;
+      for (std::size_t at = line.find("]("); at != std::string::npos; at = line.find("](", at + 1)) {
+        const std::size_t close = line.find(')', at);
+        if (close == std::string::npos) break;
+        const std::vector<std::string> words = Words(line.substr(at + 2, close - at - 2));
+        const std::string fault = words.empty() ? "a link to nothing" : FaultOfLink(files, page, words[0]);
+        if (!fault.empty()) findings.push_back(page + ":" + std::to_string(number) + ": " + fault);
+      }
+    }
+  }
+  return findings;
+}
+
+Findings CheckWords(const FileMap& files) {
+  Findings findings;
+  for (const auto& [path, contents] : files) {
+    if (IsBinary(contents) || MayNameThem(path)) continue;
+    int number = 0;
+    for (const std::string& line : Lines(AsciiLowered(contents))) {
+      ++number;
+      const std::string where = path + ":" + std::to_string(number);
+      for (const auto& [word, reason] : kForbidden) {
+        if (Contains(line, word)) {
+          findings.push_back(where + ": \"" + std::string(word) + "\": " + std::string(reason));
+        }
+      }
+      if (NamesNumberedPart(line))
+        findings.push_back(where + ": a numbered part: " + std::string(kElsewhere));
+    }
+  }
+  return findings;
+}
+
+}  // namespace orvane::project

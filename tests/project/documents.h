@@ -1,0 +1,19 @@
+// What every page and every file must keep to: links that lead somewhere, words that stand by themselves.
+#pragma once
+
+#include "tests/project/source_text.h"
+
+namespace orvane::project {
+
+// The anchor under which a Markdown heading is reached: "## Play scripts, `report`" is "play-scripts-report".
+std::string HeadingAnchor(std::string_view heading);
+
+// Links and pictures of Markdown pages that lead to no file or to no heading. Links to other sites are
+// not followed.
+Findings CheckLinks(const FileMap& files);
+
+// Words that have no place in a text file of this project: marks of unfinished work, references to
+// documents that are not here, paths of somebody's machine.
+Findings CheckWords(const FileMap& files);
+
+}  // namespace orvane::project

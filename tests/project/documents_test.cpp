@@ -1,0 +1,61 @@
+// The checks of pages and words must object to what they forbid and to nothing else.
+#include "tests/project/documents.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace orvane::project {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+TEST(Links, LeadToFilesFoldersHeadingsAndOtherSites) {
+  const FileMap files = {
+      {"README.md", "[a](docs/a.md) [docs](docs) [b](docs/a.md#two-words) [w](https://example.org)"},
+      {"docs/a.md", "# Top\n## Two words\n![p](pictures/p.png \"title\") [up](../README.md) [h](#top)"},
+      {"docs/pictures/p.png", ""}};
+  EXPECT_THAT(CheckLinks(files), IsEmpty());
+}
+
+TEST(Links, ThatLeadNowhereAreFound) {
+  const FileMap files = {{"docs/a.md", "# Top\n[gone](b.md)\n![p](p.png) [h](#bottom)\n[e]()"}};
+  EXPECT_THAT(
+      CheckLinks(files),
+      ElementsAre(HasSubstr("docs/a.md:2: no such file: docs/b.md"), HasSubstr("no such file: docs/p.png"),
+                  HasSubstr("no heading #bottom"), HasSubstr("a link to nothing")));
+}
+
+TEST(Links, InsideCodeAreNone) {
+  EXPECT_THAT(CheckLinks({{"a.md", "`[x](gone.md)`\n```\n[x](gone.md)\n```\n"}}), IsEmpty());
+}
+
+TEST(Links, HeadingsHaveTheirUsualAnchors) {
+  EXPECT_EQ(HeadingAnchor("## Play scripts, `report`"), "play-scripts-report");
+  EXPECT_EQ(HeadingAnchor("# ./dev"), "dev");
+}
+
+TEST(ForbiddenWords, AreFoundWhateverTheirCase) {
+  for (const char* line : {"// TODO: later", "Fixme", "an XXX here", "a Hack", "see The Specification",
+                           "read spec.md", "done as specified", "Part 3.1 says", "in part 12.4", "/work/main",
+                           "open(\"/tmp/x\")", "cd /home/me", "/root/x", "/Users/me", "/mnt/disk"}) {
+    EXPECT_THAT(CheckWords({{"docs/a.md", line}}), SizeIs(1)) << line;
+  }
+}
+
+TEST(ForbiddenWords, AreNotSeenInsideOthers) {
+  for (const char* line :
+       {"\\uXXXX", "mastodon", "hacksaw", "part 3 of 4", "a part of 2.1", "counterpart 2.1 x",
+        "framework/panel.h", "specification of types", "$build/tmp/x", "~/.config/orvane"}) {
+    EXPECT_THAT(CheckWords({{"docs/a.md", line}}), IsEmpty()) << line;
+  }
+}
+
+TEST(ForbiddenWords, AreNotLookedForInBinaryFiles) {
+  EXPECT_THAT(CheckWords({{"docs/a.png", std::string("\0 todo", 6)}}), IsEmpty());
+}
+
+}  // namespace
+}  // namespace orvane::project
