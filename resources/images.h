@@ -62,7 +62,7 @@ inline constexpr std::array<SharedIcon, 6> kSharedIcons{{
 }};
 
 inline constexpr int kTitleStrip = 133;      // 240 x 23, behind a tool's title
-inline constexpr int kSeparatorLine = 134;   // 240 x 3
+inline constexpr int kSeparatorLine = 134;   // 240 x 2, across a panel
 inline constexpr int kBarImages = 125;       // the buttons of all bars
 inline constexpr int kContentsImages = 141;  // the tree of the help contents
 
