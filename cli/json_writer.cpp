@@ -1,0 +1,102 @@
+#include "cli/json_writer.h"
+
+#include <string>
+
+namespace orvane {
+
+namespace {
+
+constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
+constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
+constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
+
+void AppendEscape(std::string& out, Char c) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  out += "\\u";
+  for (int shift = 12; shift >= 0; shift -= 4) out.push_back(kDigits[(c >> shift) & 0xF]);
+}
+
+// Appends one unit that is no part of a surrogate pair.
+void AppendUnit(std::string& out, Char c) {
+  if (c == u'"' || c == u'\\') {
+    out.push_back('\\');
+    out.push_back(static_cast<char>(c));
+  } else if (c == u'\n') {
+    out += "\\n";
+  } else if (c < 0x20 || (c >= 0x7F && c <= 0x9F) || IsSurrogate(c)) {
+    AppendEscape(out, c);
+  } else {
+    out += ToUtf8(TextView(&c, 1));
+  }
+}
+
+std::string Quoted(TextView text) {
+  std::string out = "\"";
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+      out += ToUtf8(text.substr(i, 2));
+      ++i;
+    } else {
+      AppendUnit(out, text[i]);
+    }
+  }
+  return out + '"';
+}
+
+}  // namespace
+
+JsonWriter& JsonWriter::Key(std::string_view asciiName) {
+  Separate();
+  out_ << '"' << asciiName << "\":";
+  afterKey_ = true;
+  return *this;
+}
+
+JsonWriter& JsonWriter::String(TextView text) {
+  Separate();
+  out_ << Quoted(text);
+  return *this;
+}
+
+JsonWriter& JsonWriter::Number(std::int64_t value) {
+  Separate();
+  out_ << std::to_string(value);  // never grouped, whatever locale the stream has
+  return *this;
+}
+
+JsonWriter& JsonWriter::Bool(bool value) {
+  Separate();
+  out_ << (value ? "true" : "false");
+  return *this;
+}
+
+JsonWriter& JsonWriter::Null() {
+  Separate();
+  out_ << "null";
+  return *this;
+}
+
+JsonWriter& JsonWriter::Begin(char bracket) {
+  Separate();
+  out_ << bracket;
+  hasItems_.push_back(false);
+  return *this;
+}
+
+JsonWriter& JsonWriter::End(char bracket) {
+  out_ << bracket;
+  hasItems_.pop_back();
+  return *this;
+}
+
+void JsonWriter::Separate() {
+  if (afterKey_) {
+    afterKey_ = false;
+    return;
+  }
+  if (hasItems_.empty()) return;
+  if (hasItems_.back()) out_ << ',';
+  hasItems_.back() = true;
+}
+
+}  // namespace orvane
