@@ -27,8 +27,6 @@ struct Outcome {
 class RunTests : public ::testing::Test {
  protected:
   RunTests() {
-    folder_ = fs::path(::testing::TempDir()) /
-              (std::string("run-tests-") + ::testing::UnitTest::GetInstance()->current_test_info()->name());
     fs::remove_all(folder_);
     fs::create_directories(folder_);
   }
@@ -71,7 +69,9 @@ class RunTests : public ::testing::Test {
   }
 
  private:
-  fs::path folder_;
+  const fs::path folder_ =
+      fs::path(::testing::TempDir()) /
+      (std::string("run-tests-") + ::testing::UnitTest::GetInstance()->current_test_info()->name());
   std::string programs_;
 };
 
