@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "png_picture.h"
+#include "tests/resources/png_picture.h"
 
 namespace orvane {
 namespace {

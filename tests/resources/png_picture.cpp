@@ -1,4 +1,4 @@
-#include "png_picture.h"
+#include "tests/resources/png_picture.h"
 
 #include <png.h>
 
