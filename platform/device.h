@@ -77,9 +77,13 @@ struct Accelerator {
   int command = 0;
 };
 
+struct DeviceFactories;  // device_factories.h
+
 class Device {
  public:
   Device(Host& host, const DeviceOptions& options);
+  // With other drawing objects and layers than the standard ones; tests put their own in.
+  Device(Host& host, const DeviceOptions& options, const DeviceFactories& factories);
   ~Device();
   Device(const Device&) = delete;
   Device& operator=(const Device&) = delete;
@@ -90,7 +94,7 @@ class Device {
   WindowHandle CreateWindow(const CreateParams& params);
   void DestroyWindow(WindowHandle window);  // children first; sends WM_DESTROY
   bool IsWindow(WindowHandle window) const;
-  WindowHandle FindWindow(TextView className, TextView title) const;
+  WindowHandle FindWindow(TextView className, TextView title) const;  // an empty title fits every window
 
   void SetUserData(WindowHandle window, WindowObject* object);
   WindowObject* UserData(WindowHandle window) const;
@@ -121,6 +125,7 @@ class Device {
   Result Send(WindowHandle window, std::uint32_t message, WParam w = 0, LParam l = 0);
   void Post(WindowHandle window, std::uint32_t message, WParam w = 0, LParam l = 0);
   Result DefaultProcedure(WindowHandle window, std::uint32_t message, WParam w, LParam l);
+  void AtNextStep(std::function<void()> action);  // queued like a message, for what has no window
   void PostQuit(int code);
   std::optional<int> QuitCode() const;  // set once the quit message has been taken from the queue
 
@@ -141,7 +146,8 @@ class Device {
   std::shared_ptr<const Image> LoadImage(const EncodedImage& image);
   FontLibrary& Fonts();
 
-  // --- Input, from the host or a script. Points are screen points, logical.
+  // --- Input, from the host or a script. Points are screen points, logical. Input is handled at once, or by
+  // the next step when messages wait that came before it, so that the order of arrival is kept.
   void PenDown(Point point, PointerKind kind = PointerKind::kMouse, bool withActionKey = false);
   void PenMove(Point point);  // ignored while the pen is up: a pen has no hover
   void PenUp(Point point);
@@ -153,6 +159,7 @@ class Device {
   void CloseFromOutside();        // WM_CLOSE to the main window
   bool IsKeyDown(int key) const;  // the state now; VK_ACTION: Ctrl, the right button or HoldActionKey
   Modifiers CurrentModifiers() const;
+  bool LastInputWasTouch() const;  // a pen or finger, not a mouse or a key; false before any input
   void SetAccelerators(std::vector<Accelerator> accelerators);
 
   // --- Steps. Handles all that is due at `now` (milliseconds of any steady clock): queued messages, timers,
