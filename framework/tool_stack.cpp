@@ -1,0 +1,14 @@
+#include "framework/tool_stack.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+void ToolStack::Remove(ZelWindow* tool) { std::erase(tools_, tool); }
+
+void ToolStack::MoveToTop(ZelWindow* tool) {
+  const auto at = std::find(tools_.begin(), tools_.end(), tool);
+  if (at != tools_.end()) std::rotate(at, at + 1, tools_.end());
+}
+
+}  // namespace orvane
