@@ -90,6 +90,10 @@ class Canvas {
 
   // Copies a part of a picture, blending by its alpha.
   virtual void DrawImage(const Image& image, Point at, const Rect& source) = 0;
+  // The same for what is disabled: drawn at two fifths of its strength.
+  virtual void DrawFaintImage(const Image& image, Point at, const Rect& source) {
+    DrawImage(image, at, source);
+  }
   // Copies the image where the mask is white; where it is black the destination becomes its bitwise AND with
   // the image; between the two in proportion.
   virtual void DrawMasked(const Image& image, const Image& mask, Point at) = 0;

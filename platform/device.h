@@ -156,7 +156,10 @@ class Device {
   void KeyUp(int key, Modifiers modifiers);
   void Character(Char character);
   void HoldActionKey(bool held);
-  void CloseFromOutside();        // WM_CLOSE to the main window
+  void CloseFromOutside();  // WM_CLOSE to the main window
+  // The last press came from a finger or pen (PointerKind::kTouch) rather than from a mouse or a key. Keys
+  // that a layer presses while it handles the pen are the pen's.
+  bool LastPressWasTouch() const;
   bool IsKeyDown(int key) const;  // the state now; VK_ACTION: Ctrl, the right button or HoldActionKey
   Modifiers CurrentModifiers() const;
   bool LastInputWasTouch() const;  // a pen or finger, not a mouse or a key; false before any input

@@ -57,7 +57,8 @@ class Dialogs {
   // Shows a dialog that takes all input until one of its buttons (or Enter, Escape) closes it.
   virtual DialogHandle ShowModal(const DialogTemplate& dialogTemplate) = 0;
   virtual std::string FrontName() const = 0;  // the topmost visible dialog, "" when there is none
-  virtual bool DismissFront() = 0;            // presses the first button of the open modal dialog
+  virtual bool ModalOpen() const { return false; }
+  virtual bool DismissFront() = 0;  // presses the first button of the open modal dialog
 };
 
 }  // namespace orvane

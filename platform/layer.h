@@ -39,6 +39,12 @@ class Layer {
   // True when the layer used the key; the windows do not see it then.
   virtual bool KeyDown(int /*key*/, Modifiers) { return false; }
   virtual bool Character(Char) { return false; }
+
+  // Called in every Device::Step after messages and timers and before painting: what follows the windows (the
+  // title) or has been put off to the next step catches up here. It may send, post and change the layer.
+  virtual void CatchUp() {}
+  // True while CatchUp has something to do; the device is not quiescent then.
+  virtual bool Behind() const { return false; }
 };
 
 }  // namespace orvane

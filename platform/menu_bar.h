@@ -73,6 +73,10 @@ class MenuBars {
   virtual bool PressPanelButton() = 0;
   // Opens the menu of the button at this place of the drawn bar; false when it has none.
   virtual bool OpenMenu(int position) = 0;
+
+  // From the open menu: it has closed; and, from Left and Right (-1, +1), the bar's next menu is wanted.
+  virtual void MenuClosed() {}
+  virtual void StepMenu(int /*step*/) {}
 };
 
 }  // namespace orvane

@@ -17,6 +17,12 @@ class PopupMenus {
   virtual const Menu& Current() const = 0;       // the open menu's entries; empty when none is open
   virtual Point Anchor() const = 0;              // as given to Track
   virtual bool ChooseLabel(TextView label) = 0;  // false when absent, disabled or a separator
+
+  // From the bar: the menu was opened by key, so its first entry is selected; and the pen that went down on
+  // the button which opened the menu moves on or is lifted, so that one stroke opens the menu and chooses.
+  virtual void SelectFirst() {}
+  virtual void FollowPen(Point) {}
+  virtual void LiftPen(Point) {}
 };
 
 }  // namespace orvane
