@@ -267,7 +267,8 @@ void CheckIds(const std::vector<Table>& tables, const ElementsSource& source,
                           "property id " + std::to_string(properties[v].id) + " a second time"});
     }
   }
-  for (int id = 0; id < kSpecialIds; ++id) {
+  // While anything else is wrong, an id may be missing because it was misread.
+  for (int id = 0; problems.empty() && id < kSpecialIds; ++id) {
     if (seen.count(id) == 0) {
       problems.push_back(
           {tables.empty() ? "tables" : tables[0].file, 0, 0,
