@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -37,6 +39,47 @@ TEST(Images, EachHasItsSizeAtEveryScale) {
     ASSERT_NE(image, nullptr) << id;
     EXPECT_EQ(image->id, id);
     ExpectAllScales(*image, size, std::to_string(id));
+  }
+}
+
+// The bytes of the file that the build made of a drawing.
+std::vector<unsigned char> DrawnFile(const std::string& drawing, int scale) {
+  const std::string path = std::string(ORVANE_ART_DIR) + "/" + drawing + "-" + std::to_string(scale) + ".png";
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void ExpectDrawing(const ImageResource& image, const std::string& drawing) {
+  for (int scale = 1; scale <= kImageScales; ++scale) {
+    const PngBytes png = image.png[static_cast<std::size_t>(scale - 1)];
+    EXPECT_TRUE(std::vector<unsigned char>(png.begin(), png.end()) == DrawnFile(drawing, scale))
+        << "is not " << drawing << " at " << scale;
+  }
+}
+
+TEST(Images, EachIsTheDrawingOfItsName) {
+  const std::map<int, std::string> expected{
+      {102, "application"},       {107, "mark-move"},          {108, "mark-move-mask"},
+      {109, "mark-enlarge"},      {110, "mark-enlarge-mask"},  {111, "mark-reduce"},
+      {112, "mark-reduce-mask"},  {119, "mark-resize-column"}, {120, "mark-resize-column-mask"},
+      {126, "mark-refused"},      {127, "mark-accepted"},      {128, "mark-accepted-mask"},
+      {129, "mark-refused-mask"}, {133, "title-strip"},        {134, "separator-line"},
+  };
+  for (const auto& [id, drawing] : expected) ExpectDrawing(*FindImage(id), drawing);
+}
+
+TEST(Strips, CellsStandInTheirOrder) {
+  const std::map<int, std::vector<std::string>> expected{
+      {125, {"tick",      "cross",       "question",  "copy",     "paste",         "table-size",
+             "show",      "hand",        "magnifier", "fit",      "plot-setup",    "plot-presets",
+             "title-bar", "value-strip", "fold",      "question", "page-previous", "page-next",
+             "back",      "contents",    "setup",     "presets",  "summary"}},
+      {141, {"book-closed", "book-open", "page", "box-minus", "box-plus"}},
+  };
+  for (const auto& [id, drawings] : expected) {
+    const auto cells = FindStrip(id)->cells;
+    ASSERT_EQ(cells.size(), drawings.size());
+    for (std::size_t i = 0; i < cells.size(); ++i) ExpectDrawing(cells[i], drawings[i]);
   }
 }
 

@@ -1,6 +1,7 @@
 // A PNG file decoded, for the tests of the artwork.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -23,7 +24,10 @@ inline constexpr Pixel kWhitePixel{255, 255, 255, 255};
 struct Picture {
   Size size;
   std::vector<Pixel> pixels;
-  Pixel At(int x, int y) const { return pixels[static_cast<std::size_t>(y * size.width + x)]; }
+  Pixel At(int x, int y) const {
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width) +
+                  static_cast<std::size_t>(x)];
+  }
 };
 
 Picture Decode(PngBytes png);
