@@ -62,7 +62,8 @@ pictures() {
   fields $column_width
   index=0
   for entry in "${drawings[@]}"; do
-    left=$((index / rows * column_width))
+    column=$((index / rows))
+    left=$((column * column_width))
     middle=$((index % rows * row_height + row_height / 2 + 8))
     echo "<text x='$((left + 12))' y='$((middle - 2))' font-family='DejaVu Sans' font-size='12'>${entry##* }</text>"
     echo "<text x='$((left + 12))' y='$((middle + 14))' font-family='DejaVu Sans' font-size='11'" \
