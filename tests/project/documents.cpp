@@ -114,25 +114,49 @@ bool IsFolder(const FileMap& files, const std::string& path) {
   return it != files.end() && StartsWith(it->first, start);
 }
 
-// An empty text when the link leads somewhere, else what is wrong with it.
-std::string FaultOfLink(const FileMap& files, const std::string& page, std::string target) {
+// The path that a link from a page stands for, without its anchor; empty for other sites.
+std::string PathOfLink(const std::string& page, std::string_view target) {
   for (const std::string_view site : {"http://", "https://", "mailto:"}) {
     if (StartsWith(target, site)) return "";
   }
-  std::string anchor;
-  if (const std::size_t hash = target.find('#'); hash != std::string::npos) {
-    anchor = target.substr(hash + 1);
-    target.resize(hash);
-  }
-  const std::string path =
-      target.empty()
-          ? page
-          : (std::filesystem::path(page).parent_path() / target).lexically_normal().generic_string();
+  target = target.substr(0, target.find('#'));
+  if (target.empty()) return page;
+  return (std::filesystem::path(page).parent_path() / target).lexically_normal().generic_string();
+}
+
+// An empty text when the link leads somewhere, else what is wrong with it.
+std::string FaultOfLink(const FileMap& files, const std::string& page, const std::string& target) {
+  if (target.empty()) return "a link to nothing";
+  const std::string path = PathOfLink(page, target);
+  if (path.empty()) return "";
   const auto file = files.find(path);
   if (file == files.end()) return path == "." || IsFolder(files, path) ? "" : "no such file: " + path;
-  if (!anchor.empty() && !Anchors(file->second).contains(anchor)) return path + " has no heading #" + anchor;
-  return "";
+  const std::size_t hash = target.find('#');
+  if (hash == std::string::npos || Anchors(file->second).contains(target.substr(hash + 1))) return "";
+  return path + " has no heading " + target.substr(hash);
 }
+
+struct Link {
+  std::string target;  // as written, without a title
+  int line = 0;        // from 1
+};
+
+std::vector<Link> LinksOf(std::string_view page) {
+  std::vector<Link> links;
+  int number = 0;
+  for (const std::string& line : ProseLines(page)) {
+    ++number;
+    for (std::size_t at = line.find("]("); at != std::string::npos; at = line.find("](", at + 1)) {
+      const std::size_t close = line.find(')', at);
+      if (close == std::string::npos) break;
+      const std::vector<std::string> words = Words(line.substr(at + 2, close - at - 2));
+      links.push_back({words.empty() ? std::string() : words[0], number});
+    }
+  }
+  return links;
+}
+
+bool IsPage(std::string_view path) { return EndsWith(path, ".md"); }
 
 }  // namespace
 
@@ -152,17 +176,47 @@ std::string HeadingAnchor(std::string_view heading) {
 Findings CheckLinks(const FileMap& files) {
   Findings findings;
   for (const auto& [page, contents] : files) {
-    if (!EndsWith(page, ".md")) continue;
-    int number = 0;
-    for (const std::string& line : ProseLines(contents)) {
-      ++number;
-      for (std::size_t at = line.find("]("); at != std::string::npos; at = line.find("](", at + 1)) {
-        const std::size_t close = line.find(')', at);
-        if (close == std::string::npos) break;
-        const std::vector<std::string> words = Words(line.substr(at + 2, close - at - 2));
-        const std::string fault = words.empty() ? "a link to nothing" : FaultOfLink(files, page, words[0]);
-        if (!fault.empty()) findings.push_back(page + ":" + std::to_string(number) + ": " + fault);
-      }
+    if (!IsPage(page)) continue;
+    for (const Link& link : LinksOf(contents)) {
+      const std::string fault = FaultOfLink(files, page, link.target);
+      if (!fault.empty()) findings.push_back(page + ":" + std::to_string(link.line) + ": " + fault);
+    }
+  }
+  return findings;
+}
+
+Findings CheckIndex(const FileMap& files) {
+  std::set<std::string> linked;
+  for (const auto& [page, contents] : files) {
+    if (!IsPage(page)) continue;
+    for (const Link& link : LinksOf(contents)) {
+      const std::string path = PathOfLink(page, link.target);
+      if (path != page) linked.insert(path);
+    }
+  }
+  Findings findings;
+  for (const auto& [page, contents] : files) {
+    if (IsPage(page) && FirstFolder(page) == "docs" && !linked.contains(page)) {
+      findings.push_back(page + ": no other page links to it; docs/README.md is the index");
+    }
+  }
+  return findings;
+}
+
+Findings CheckMentions(const FileMap& files) {
+  Findings findings;
+  for (const auto& [path, contents] : files) {
+    if (IsPage(path) || IsBinary(contents) || FirstFolder(path) == "tests") continue;
+    for (std::size_t at = contents.find("docs/"); at != std::string::npos;
+         at = contents.find("docs/", at + 1)) {
+      if (at > 0 && (IsWordCharacter(contents[at - 1]) || contents[at - 1] == '/')) continue;
+      std::size_t end = at;
+      while (end < contents.size() && (IsWordCharacter(contents[end]) ||
+                                       std::string_view("/.-").find(contents[end]) != std::string_view::npos))
+        ++end;
+      std::string page = contents.substr(at, end - at);
+      while (EndsWith(page, ".")) page.pop_back();
+      if (IsPage(page) && !files.contains(page)) findings.push_back(path + ": there is no " + page);
     }
   }
   return findings;

@@ -12,6 +12,12 @@ std::string HeadingAnchor(std::string_view heading);
 // not followed.
 Findings CheckLinks(const FileMap& files);
 
+// Pages below docs/ that no other page links to: nobody would find them.
+Findings CheckIndex(const FileMap& files);
+
+// Pages below docs/ that a source, a script or a build file names although they do not exist.
+Findings CheckMentions(const FileMap& files);
+
 // Words that have no place in a text file of this project: marks of unfinished work, references to
 // documents that are not here, paths of somebody's machine.
 Findings CheckWords(const FileMap& files);

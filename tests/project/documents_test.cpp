@@ -37,6 +37,22 @@ TEST(Links, HeadingsHaveTheirUsualAnchors) {
   EXPECT_EQ(HeadingAnchor("# ./dev"), "dev");
 }
 
+TEST(Index, NamesEveryPage) {
+  const FileMap files = {{"README.md", "[docs](docs/README.md)"},
+                         {"docs/README.md", "[a](a.md#x) [self](README.md)"},
+                         {"docs/a.md", "# x"},
+                         {"docs/lost.md", "[self](lost.md) [a](a.md)"},
+                         {"content/SOURCES.md", ""}};
+  EXPECT_THAT(CheckIndex(files), ElementsAre(HasSubstr("docs/lost.md")));
+}
+
+TEST(Mentions, OfPagesAreOfPagesThatExist) {
+  const FileMap files = {{"docs/a.md", ""},
+                         {"base/a.h", "// See docs/a.md.\n// Or mydocs/b.md, or docs/pictures."},
+                         {"cmake/b.cmake", "# docs/formats/gone.md says more."}};
+  EXPECT_THAT(CheckMentions(files), ElementsAre("cmake/b.cmake: there is no docs/formats/gone.md"));
+}
+
 TEST(ForbiddenWords, AreFoundWhateverTheirCase) {
   for (const char* line : {"// TODO: later", "Fixme", "an XXX here", "a Hack", "see The Specification",
                            "read spec.md", "done as specified", "Part 3.1 says", "in part 12.4", "/work/main",

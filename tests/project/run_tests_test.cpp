@@ -2,14 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <string>
 
-#include "tests/project/source_text.h"
+#include "tests/project/shell_command.h"
 
 namespace orvane::project {
 namespace {
@@ -17,12 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::HasSubstr;
 using ::testing::Not;
-
-struct Outcome {
-  std::string output;
-  std::string lastLine;
-  bool succeeded = false;
-};
 
 class RunTests : public ::testing::Test {
  protected:
@@ -53,19 +44,8 @@ class RunTests : public ::testing::Test {
 
   Outcome Go(const std::string& environment = "") {
     const std::string command = environment + " " ORVANE_SOURCE_DIR "/tests/run-tests.sh '" +
-                                (folder_ / "results").string() + "'" + programs_ + " 2>&1";
-    FILE* pipe = popen(command.c_str(), "r");
-    Outcome run;
-    if (pipe == nullptr) return run;
-    std::array<char, 4096> part{};
-    for (std::size_t count = 1; count > 0;) {
-      count = fread(part.data(), 1, part.size(), pipe);
-      run.output.append(part.data(), count);
-    }
-    run.succeeded = pclose(pipe) == 0;
-    const auto lines = Lines(run.output);
-    if (!lines.empty()) run.lastLine = lines.back();
-    return run;
+                                (folder_ / "results").string() + "'" + programs_;
+    return RunShellCommand(command);
   }
 
  private:

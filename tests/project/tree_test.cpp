@@ -61,6 +61,8 @@ TEST_F(Tree, NamesItsFoldersByWhatTheyHold) { EXPECT_THAT(CheckFolderNames(files
 
 TEST_F(Tree, LinksOnlyToWhatExists) { EXPECT_THAT(CheckLinks(files_), IsEmpty()); }
 
+TEST_F(Tree, HasAnIndexOfItsPages) { EXPECT_THAT(CheckIndex(files_), IsEmpty()); }
+
 TEST_F(Tree, StandsByItself) { EXPECT_THAT(CheckWords(files_), IsEmpty()); }
 
 }  // namespace
