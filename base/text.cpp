@@ -99,8 +99,7 @@ std::string ToUtf8(TextView text) {
   out.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     std::uint32_t code = text[i];
-    const bool high = code >= 0xD800 && code <= 0xDBFF;
-    if (high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] <= 0xDFFF) {
+    if (IsSurrogatePairAt(text, i)) {
       code = 0x10000 + ((code - 0xD800) << 10) + (text[i + 1] - 0xDC00u);
       ++i;
     }

@@ -2,6 +2,7 @@
 // surrogates are legal and survive every operation here; UTF-8 exists at the program's edges only.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,6 +31,16 @@ constexpr bool IsAsciiLower(Char c) { return c >= u'a' && c <= u'z'; }
 constexpr bool IsAsciiLetter(Char c) { return IsAsciiUpper(c) || IsAsciiLower(c); }
 constexpr Char AsciiLower(Char c) { return IsAsciiUpper(c) ? static_cast<Char>(c + 32) : c; }
 constexpr Char AsciiUpper(Char c) { return IsAsciiLower(c) ? static_cast<Char>(c - 32) : c; }
+
+// The halves of a pair that stands for a character beyond U+FFFF.
+constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
+constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
+constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
+
+// Whether such a pair stands at this position of the text; every other surrogate is a lone one.
+constexpr bool IsSurrogatePairAt(TextView text, std::size_t at) {
+  return at + 1 < text.size() && IsHighSurrogate(text[at]) && IsLowSurrogate(text[at + 1]);
+}
 
 // Decimal text of a number, with a minus sign when it is negative.
 Text DecimalText(std::int64_t value);

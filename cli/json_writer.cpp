@@ -6,10 +6,6 @@ namespace orvane {
 
 namespace {
 
-constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
-constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
-constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
-
 void AppendEscape(std::string& out, Char c) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   out += "\\u";
@@ -33,7 +29,7 @@ void AppendUnit(std::string& out, Char c) {
 std::string Quoted(TextView text) {
   std::string out = "\"";
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+    if (IsSurrogatePairAt(text, i)) {
       out += ToUtf8(text.substr(i, 2));
       ++i;
     } else {

@@ -33,7 +33,6 @@ Char ShiftedForm(Char c, Position position) {
 }
 
 constexpr bool IsTerminalControl(Char c) { return (c < 0x20 && c != u'\n') || (c >= 0x7F && c <= 0x9F); }
-constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
 
 // Raised wins when a code asks for both.
 Position PositionOf(Char flags) {
@@ -61,12 +60,9 @@ void AppendRun(Text& out, const Text& run, Position position) {
 
 Text WithoutLoneSurrogates(Text text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!IsSurrogate(text[i])) continue;
-    const bool pair =
-        text[i] <= 0xDBFF && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] <= 0xDFFF;
-    if (pair) {
+    if (IsSurrogatePairAt(text, i)) {
       ++i;
-    } else {
+    } else if (IsSurrogate(text[i])) {
       text[i] = 0xFFFD;
     }
   }

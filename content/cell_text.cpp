@@ -10,9 +10,6 @@ constexpr Char kRaisedFlags = 0x00A0;
 constexpr Char kLoweredFlags = 0x0060;
 
 constexpr bool IsControl(Char c) { return c < 0x20 || (c >= 0x7F && c <= 0x9F); }
-constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
-constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
-constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
 
 // The value of a hexadecimal digit, or -1.
 constexpr int HexDigit(Char c) {
@@ -130,7 +127,7 @@ void WriteUnit(std::string& out, TextView text, std::size_t& i) {
   const Char c = text[i];
   if (c == u'\n') {
     out += "\\n";
-  } else if (IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+  } else if (IsSurrogatePairAt(text, i)) {
     out += ToUtf8(text.substr(i, 2));
     ++i;
   } else if (IsControl(c) || IsSurrogate(c) || (c == u' ' && (i == 0 || i + 1 == text.size()))) {

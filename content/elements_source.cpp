@@ -9,10 +9,9 @@ namespace orvane {
 
 namespace {
 
-// The widths of the fixed fields of the program's records, without their terminating zero.
-constexpr std::size_t kMaxCategoryName = 255;
-constexpr std::size_t kMaxPropertyName = 149;
-constexpr std::size_t kMaxUnits = 50;
+constexpr std::size_t kMaxCategoryName = ElementsDatabase::kLongestCategoryName;
+constexpr std::size_t kMaxPropertyName = ElementsDatabase::kLongestPropertyName;
+constexpr std::size_t kMaxUnits = ElementsDatabase::kLongestUnits;
 constexpr int kMaxId = 32767;
 
 constexpr int kSymbolId = 0;

@@ -1,5 +1,5 @@
 // The elements database as its authors write it: one table per category, one row per element, one column per
-// property. docs in content/README.md; the compiled form is described in docs/formats/periodic.md.
+// property. content/README.md describes the tables, docs/formats/periodic.md the compiled form.
 #pragma once
 
 #include <array>
@@ -10,10 +10,11 @@
 
 #include "base/text.h"
 #include "content/table.h"
+#include "data/elements_database.h"
 
 namespace orvane {
 
-inline constexpr int kSourceElements = 112;  // hydrogen to element 112
+inline constexpr int kSourceElements = ElementsDatabase::kElementCount;
 
 struct PropertySource {
   int id = 0;

@@ -10,9 +10,6 @@ constexpr std::string_view kDword = "dword:";
 constexpr std::string_view kHex = "hex:";
 constexpr std::string_view kHexDigits = "0123456789abcdef";
 
-bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
-bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
-
 // The value of a hexadecimal digit, or -1.
 int HexValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';
@@ -143,10 +140,10 @@ void AppendQuoted(std::string& out, TextView text) {
   out.push_back('"');
   for (std::size_t i = 0; i < text.size(); ++i) {
     const Char c = text[i];
-    const bool pair = IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
+    const bool pair = IsSurrogatePairAt(text, i);
     if (pair) {
       out += ToUtf8(text.substr(i++, 2));
-    } else if (IsControl(c) || IsHighSurrogate(c) || IsLowSurrogate(c)) {
+    } else if (IsControl(c) || IsSurrogate(c)) {
       out += "\\u";
       AppendHex(out, c, 4);
     } else {

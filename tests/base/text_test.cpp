@@ -113,6 +113,21 @@ TEST(TextTest, ClassesAndFoldingKeepToAscii) {
   }
 }
 
+TEST(TextTest, SurrogatesAreToldFromOtherUnits) {
+  for (int i = 0; i <= 0xFFFF; ++i) {
+    const Char c = static_cast<Char>(i);
+    ASSERT_EQ(IsHighSurrogate(c), i >= 0xD800 && i < 0xDC00) << i;
+    ASSERT_EQ(IsLowSurrogate(c), i >= 0xDC00 && i < 0xE000) << i;
+    ASSERT_EQ(IsSurrogate(c), i >= 0xD800 && i < 0xE000) << i;
+  }
+  const Text text = {u'a', 0xD83D, 0xDE00, 0xD83D};
+  EXPECT_FALSE(IsSurrogatePairAt(text, 0));
+  EXPECT_TRUE(IsSurrogatePairAt(text, 1));
+  EXPECT_FALSE(IsSurrogatePairAt(text, 2));
+  EXPECT_FALSE(IsSurrogatePairAt(text, 3));
+  EXPECT_FALSE(IsSurrogatePairAt(text, 4));
+}
+
 TEST(TextTest, DecimalTextOfEverySize) {
   EXPECT_EQ(DecimalText(0), u"0");
   EXPECT_EQ(DecimalText(-5), u"-5");
