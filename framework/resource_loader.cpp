@@ -8,6 +8,9 @@ namespace orvane {
 
 namespace {
 
+constexpr Colour kDialogBackground = Rgb(230, 242, 255);
+constexpr Colour kDialogText = Rgb(0, 39, 83);
+
 std::shared_ptr<const Image> LoadImage(Device& device, const ImageResource& resource) {
   return device.LoadImage({resource.size, resource.png});
 }
@@ -95,9 +98,10 @@ std::optional<DialogTemplate> LoadResourceDialog(Device& device, int dialogId, s
   DialogTemplate dialog;
   dialog.name = std::move(name);
   dialog.rect = resource->rect;
+  dialog.background = kDialogBackground;
   for (const DialogText& text : resource->texts) {
     dialog.labels.push_back({text.rect, Text(text.text), Text(resource->face), text.pointSize, text.bold,
-                             AlignOf(text.alignment), kBlack});
+                             AlignOf(text.alignment), kDialogText});
   }
   for (const DialogImage& image : resource->images) {
     dialog.pictures.push_back({image.rect, LoadResourceImage(device, image.imageId)});

@@ -1,4 +1,4 @@
-// Dialogs of static texts, push buttons, pictures and push buttons, made from a template.
+// Dialogs of static texts, pictures and push buttons, made from a template.
 #pragma once
 
 #include <memory>

@@ -1,0 +1,23 @@
+// The commands of the main menu, and which screen each of them leads to.
+#pragma once
+
+#include <optional>
+
+#include "app/tool_set.h"
+
+namespace orvane {
+
+inline constexpr int kCommandAbout = 40017;
+inline constexpr int kCommandHelp = 40064;
+inline constexpr int kCommandExit = 40016;
+inline constexpr int kCommandElementInfo = 40010;
+inline constexpr int kCommandShowHelp = 40167;
+inline constexpr int kCommandConstants = 40146;
+
+// The tool that a command switches to; nothing for a command that switches to none.
+std::optional<ToolSlot> SwitchTarget(int command);
+
+// The tool without which a command of the main menu has nothing to do; nothing when it needs none.
+std::optional<ToolSlot> NeededTool(int command);
+
+}  // namespace orvane

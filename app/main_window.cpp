@@ -1,0 +1,124 @@
+// The main window: its messages, its commands, and the switching between tools.
+#include "app/application.h"
+#include "app/commands.h"
+#include "framework/resource_loader.h"
+#include "resources/dialogs.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Rect kAboutRect = Rect::At(0, 26, 240, 268);
+constexpr int kFirstElement = 0;
+constexpr int kFirstHelpPage = 0;
+
+// The wait cursor for as long as it lives.
+class WaitCursor {
+ public:
+  explicit WaitCursor(Device& device) : device_(device) { device_.SetWaitCursor(true); }
+  ~WaitCursor() { device_.SetWaitCursor(false); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+
+ private:
+  Device& device_;
+};
+
+}  // namespace
+
+Result Application::OnMainMessage(WindowHandle window, std::uint32_t message, WParam w, LParam l) {
+  switch (message) {
+    case WM_CREATE:
+      mainWindow_ = window;
+      device_.SetMainWindow(window);
+      InitApp();
+      return 0;
+    case WM_DESTROY:
+      device_.PostQuit(kExitNormal);
+      return 0;
+    case WM_COMMAND:
+      OnCommand(CommandId(w));
+      return 0;
+    case WM_NOTIFY: {
+      const auto* notification = reinterpret_cast<const BarNotification*>(l);
+      if (notification && notification->code == TBN_DROPDOWN) return ForwardDropDown(*notification);
+      return 0;
+    }
+    case WM_SETTINGCHANGE:
+      return device_.Send(currentTool_, message, w, l);
+    default:
+      return device_.DefaultProcedure(window, message, w, l);
+  }
+}
+
+void Application::OnCommand(int command) {
+  if (command == kCommandConstants && Made(ToolSlot::kConstants).load) Made(ToolSlot::kConstants).load();
+  if (const std::optional<ToolSlot> slot = SwitchTarget(command)) return SwitchTo(*slot);
+  switch (command) {
+    case kCommandAbout:
+      return ShowAbout();
+    case kCommandHelp:
+      return OpenHelp(helpTopic_);
+    case kCommandExit:
+      return device_.PostQuit(kExitNormal);
+    case kCommandElementInfo:
+      return ShowElement(selectedElement_ < 0 ? kFirstElement : selectedElement_);
+    case kCommandShowHelp:
+      return ShowHelp();
+    default:
+      device_.Send(currentTool_, kToolCommand, static_cast<WParam>(command), kFromMenu);
+  }
+}
+
+Result Application::ForwardDropDown(const BarNotification& notification) {
+  return device_.Send(currentTool_, kToolCommand, static_cast<WParam>(notification.id), kFromDropDown);
+}
+
+void Application::ShowAbout() {
+  if (auto dialog = LoadResourceDialog(device_, kAboutDialog, "about")) {
+    dialog->rect = kAboutRect;
+    device_.DialogBoxes().ShowModal(*dialog);
+  }
+}
+
+void Application::OpenHelp(int page) {
+  const MadeTool& viewer = Made(ToolSlot::kHelpViewer);
+  const WaitCursor wait(device_);
+  if (viewer.openPage) viewer.openPage(page);
+}
+
+// A viewer that shows a page already only comes back; one that has shown none opens the first page.
+void Application::ShowHelp() {
+  const MadeTool& viewer = Made(ToolSlot::kHelpViewer);
+  if (!viewer.window) return;
+  if (!viewer.hasPage || !viewer.hasPage()) return OpenHelp(kFirstHelpPage);
+  const WaitCursor wait(device_);
+  viewer.window->Show();
+}
+
+void Application::ShowElement(int element) {
+  const MadeTool& view = Made(ToolSlot::kElement);
+  const WaitCursor wait(device_);
+  if (view.showElement) view.showElement(element);
+}
+
+// The chosen tool comes forward as if for the first time, even when it is the current one: its window is put
+// away first, so that it sets its topic and adds its buttons again.
+void Application::SwitchTo(ToolSlot slot) {
+  ZelWindow* tool = Tool(slot);
+  if (!tool) return;
+  const WaitCursor wait(device_);
+  helpTopic_ = 0;
+  RemoveAddedButtons();
+  tool->HideOnly();
+  tool->Show();
+  HideAllBut(tool);
+}
+
+void Application::HideAllBut(const ZelWindow* kept) {
+  for (const MadeTool& tool : tools_) {
+    if (tool.window && tool.window.get() != kept) tool.window->Hide();
+  }
+}
+
+}  // namespace orvane
