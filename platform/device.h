@@ -162,7 +162,6 @@ class Device {
   bool LastPressWasTouch() const;
   bool IsKeyDown(int key) const;  // the state now; VK_ACTION: Ctrl, the right button or HoldActionKey
   Modifiers CurrentModifiers() const;
-  bool LastInputWasTouch() const;  // a pen or finger, not a mouse or a key; false before any input
   void SetAccelerators(std::vector<Accelerator> accelerators);
 
   // --- Steps. Handles all that is due at `now` (milliseconds of any steady clock): queued messages, timers,

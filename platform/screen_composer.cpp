@@ -1,0 +1,96 @@
+#include "platform/screen_composer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+#include "platform/device.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr Colour kDesk = Rgb(64, 64, 64);
+constexpr Rect kScreenRect{0, 0, kScreenSize.width, kScreenSize.height};
+
+// Beyond this many pieces one larger rectangle is cheaper than the bookkeeping.
+constexpr std::size_t kMostPieces = 24;
+
+std::uint32_t FramePixel(Colour colour) {
+  return (static_cast<std::uint32_t>(colour.red) << 16) | (static_cast<std::uint32_t>(colour.green) << 8) |
+         colour.blue;
+}
+
+void FillFrame(const FrameBuffer& frame, const Rect& area, Colour colour) {
+  const std::uint32_t pixel = FramePixel(colour);
+  for (int y = area.top; y < area.bottom; ++y) {
+    std::uint32_t* const row = frame.pixels + static_cast<std::ptrdiff_t>(y) * frame.stride;
+    std::fill(row + area.left, row + area.right, pixel);
+  }
+}
+
+// At a whole scale a surface's pixels lie exactly where the screen's do. At others its inner edges may be one
+// device pixel off the rounding of screen coordinates, so the damage is widened by that pixel.
+Area DeviceDamage(const Area& damage, double scale, const Rect& frameRect) {
+  const int margin = scale == std::floor(scale) ? 0 : 1;
+  Area device;
+  for (const Rect& rect : damage.Rects()) {
+    device.Add(Intersect(DevicePixelRect(rect, scale).Inset(-margin), frameRect));
+  }
+  return device;
+}
+
+void DrawItem(const ScreenItem& item, const Rect& area, double scale, Graphics& graphics,
+              const FrameBuffer& frame) {
+  if (item.surface == nullptr) {
+    FillFrame(frame, area, item.fill);
+    return;
+  }
+  const Point at{DevicePixelEdge(item.origin.x, scale), DevicePixelEdge(item.origin.y, scale)};
+  const Rect pixels{0, 0, item.surface->DeviceWidth(), item.surface->DeviceHeight()};
+  const Rect source = Intersect(area.Offset(-at.x, -at.y), pixels);
+  if (source.Empty()) return;
+  graphics.CopyToFrame(*item.surface, source, frame.pixels, frame.stride,
+                       {source.left + at.x, source.top + at.y});
+}
+
+}  // namespace
+
+int DevicePixelEdge(int logical, double scale) { return static_cast<int>(std::floor(logical * scale + 0.5)); }
+
+Rect DevicePixelRect(const Rect& logical, double scale) {
+  return {DevicePixelEdge(logical.left, scale), DevicePixelEdge(logical.top, scale),
+          DevicePixelEdge(logical.right, scale), DevicePixelEdge(logical.bottom, scale)};
+}
+
+void ScreenComposer::Damage(const Rect& screen) {
+  damage_.Add(Intersect(screen, kScreenRect));
+  if (damage_.Rects().size() > kMostPieces) damage_ = Area(damage_.Bounds());
+}
+
+void ScreenComposer::DamageAll() { damage_ = Area(kScreenRect); }
+
+void ScreenComposer::Compose(const std::vector<ScreenItem>& items, double scale, Graphics& graphics,
+                             Host& host) {
+  if (damage_.Empty()) return;
+  const Rect whole = DevicePixelRect(kScreenRect, scale);
+  const FrameBuffer frame = host.Frame(whole.right, whole.bottom);
+  const Area logicalDamage = std::exchange(damage_, Area());
+  if (frame.pixels == nullptr) return;
+  const Rect frameRect = Intersect(whole, {0, 0, std::min(frame.width, frame.stride), frame.height});
+
+  Area rest = DeviceDamage(logicalDamage, scale, frameRect);
+  const Rect changed = rest.Bounds();
+  if (changed.Empty()) return;
+  for (auto item = items.rbegin(); item != items.rend() && !rest.Empty(); ++item) {
+    const Rect place = DevicePixelRect(item->clip, scale);
+    const Area part = rest.CommonWith(place);
+    for (const Rect& area : part.Rects()) DrawItem(*item, area, scale, graphics, frame);
+    rest.Subtract(place);
+  }
+  for (const Rect& area : rest.Rects()) FillFrame(frame, area, kDesk);
+  host.FrameChanged(changed);
+}
+
+}  // namespace orvane
