@@ -18,18 +18,12 @@ struct Decoded {
   std::size_t units = 1;
 };
 
-constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
-constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
-
 // A lone surrogate stands for itself; no face has it, so that it is drawn as the replacement glyph.
 Decoded DecodeAt(TextView text, std::size_t i) {
-  const Char first = text[i];
-  if (IsHighSurrogate(first) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
-    const char32_t high = first - 0xD800u;
-    const char32_t low = text[i + 1] - 0xDC00u;
-    return {0x10000u + (high << 10) + low, 2};
-  }
-  return {first, 1};
+  if (!IsSurrogatePairAt(text, i)) return {text[i], 1};
+  const char32_t high = text[i] - 0xD800u;
+  const char32_t low = text[i + 1] - 0xDC00u;
+  return {0x10000u + (high << 10) + low, 2};
 }
 
 constexpr bool IsControl(char32_t c) { return c < 0x20; }
