@@ -14,8 +14,7 @@ bool Equal(const MessageBoxText& a, const MessageBoxText& b) {
 void Cut(Text& text) {
   if (text.size() <= kLongestBoxText) return;
   text.resize(kLongestBoxText);
-  const Char last = text.back();
-  if (last >= 0xD800 && last <= 0xDBFF) text.pop_back();
+  if (IsHighSurrogate(text.back())) text.pop_back();
   text += u"...";
 }
 

@@ -10,8 +10,6 @@ namespace {
 
 constexpr TextView kEllipsis = u"...";
 
-bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
-
 // The capitals of the face are 0.73 em high: what the eye takes for the height of a line of labels.
 int CapitalHeight(const Font& font) { return (font.Spec().pixels * 73 + 50) / 100; }
 

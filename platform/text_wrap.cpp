@@ -4,8 +4,6 @@ namespace orvane {
 namespace {
 
 bool IsPathSeparator(Char c) { return c == u'/' || c == u'\\'; }
-bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
-
 // Where the line that starts at `first` ends and where the next one starts, within one paragraph.
 struct Break {
   std::size_t last = 0;
