@@ -49,7 +49,7 @@ Text TakeTextField(TextView buffer, std::size_t& position, std::size_t maximum, 
 
   position += field.size();
   if (position < buffer.size()) ++position;
-  if (end != rest.end() && position < buffer.size() && buffer[position] == u'\n') ++position;
+  if (position < buffer.size() && buffer[position] == u'\n') ++position;
 
   if (field.size() >= maximum) {
     const Text text = WithNumber(u"ReadFile: max length exceeded. Max length: %d, actual length: %d",

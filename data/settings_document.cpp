@@ -16,18 +16,18 @@ std::string_view Trimmed(std::string_view line) {
   return line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
 }
 
-// Cuts the first line off `rest`, without its line feed or carriage return and line feed.
+// Cuts the first line off `rest`, without its line feed and the carriage returns before it.
 std::string_view TakeLine(std::string_view& rest) {
   std::string_view line = rest.substr(0, rest.find('\n'));
   rest.remove_prefix(line.size() < rest.size() ? line.size() + 1 : rest.size());
-  if (line.ends_with('\r')) line.remove_suffix(1);
+  while (line.ends_with('\r')) line.remove_suffix(1);
   return line;
 }
 
 }  // namespace
 
 SettingsDocument::SettingsDocument(TextView section, std::string_view bytes) : section_(section) {
-  if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+  while (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
   bool inSection = false;
   while (!bytes.empty()) ParseLine(TakeLine(bytes), inSection);
 }

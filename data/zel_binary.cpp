@@ -12,6 +12,11 @@ namespace orvane {
 namespace {
 
 constexpr std::size_t kBufferSize = 16 * 1024;
+constexpr std::int64_t kFarAway = std::numeric_limits<std::int64_t>::max();
+// The readers of both kinds of strings report a closed file under the counted one's name.
+constexpr TextView kStringsClosed =
+    u"ZelBinary::ReadTCharFromChar_C() - attempted operation on a closed file";
+
 constexpr unsigned char kEscape = 0x02;
 constexpr unsigned char kTrue = 'T';
 
@@ -78,14 +83,9 @@ std::size_t CharactersOf(std::size_t capacity) { return capacity == 0 ? 0 : capa
 
 void ZelBinary::Report(TextView text) { reporter_.Report(text, kProgramName, MessageIcon::kError); }
 
-bool ZelBinary::CheckOpen(TextView operation) {
-  if (open_) return true;
-  Report(WithText(u"ZelBinary::%s() - attempted operation on a closed file", operation));
-  return false;
-}
-
-void ZelBinary::ReportShort(TextView operation) {
-  Report(WithText(u"ZelBinary::%s() - attempted to read beyond end of file", operation));
+bool ZelBinary::CheckOpen(TextView closedMessage) {
+  if (!open_) Report(closedMessage);
+  return open_;
 }
 
 int ZelBinary::Open(const std::string& path) {
@@ -105,6 +105,7 @@ int ZelBinary::Open(const std::string& path) {
   bufferStart_ = 0;
   bufferLength_ = 0;
   streamPosition_ = 0;
+  end_ = kFarAway;
   return 1;
 }
 
@@ -127,28 +128,27 @@ std::int64_t ZelBinary::SizeOfFile() {
 }
 
 std::int32_t ZelBinary::SeekTo(std::int32_t position) {
-  if (!CheckOpen(u"SeekTo") || position < 0) return -1;
+  if (!CheckOpen(u"ZelBinary::SeekTo() - attempted operation on a closed file") || position < 0) return -1;
   MoveTo(position);
   return position;
 }
 
 void ZelBinary::SeekBy(std::int32_t delta) {
-  if (!CheckOpen(u"SeekBy")) return;
-  constexpr std::int64_t kFurthest = std::numeric_limits<std::int64_t>::max();
-  if (delta <= 0 || position_ <= kFurthest - delta) MoveTo(position_ + delta);
+  if (!CheckOpen(u"ZelBinary::SeekBy() - attempted operation on a closed file")) return;
+  if (delta <= 0 || position_ <= kFarAway - delta) MoveTo(position_ + delta);
 }
 
 void ZelBinary::SeekEnd() {
-  if (CheckOpen(u"SeekEnd")) MoveTo(SizeOfFile());
+  if (CheckOpen(u"ZelBinary::SeekEnd() - attempted operation on a closed file")) MoveTo(SizeOfFile());
 }
 
 std::uint32_t ZelBinary::FileSize() {
-  if (!CheckOpen(u"FileSize")) return 0xFFFFFFFFu;
+  if (!CheckOpen(u"ZelBinary::FileSize() - attempted operation on a closed file")) return 0xFFFFFFFFu;
   return static_cast<std::uint32_t>(SizeOfFile());
 }
 
 std::uint32_t ZelBinary::FilePos() {
-  if (!CheckOpen(u"FilePos")) return 0xFFFFFFFFu;
+  if (!CheckOpen(u"ZelBinary::FilePos() - attempted operation on a closed file")) return 0xFFFFFFFFu;
   return static_cast<std::uint32_t>(position_);
 }
 
@@ -157,6 +157,7 @@ std::size_t ZelBinary::Available() {
   if (offset >= 0 && offset < static_cast<std::int64_t>(bufferLength_)) {
     return bufferLength_ - static_cast<std::size_t>(offset);
   }
+  if (position_ >= end_) return 0;
   buffer_.resize(kBufferSize);
   file_.clear();
   if (streamPosition_ != position_) file_.seekg(position_);
@@ -164,6 +165,7 @@ std::size_t ZelBinary::Available() {
   bufferStart_ = position_;
   bufferLength_ = static_cast<std::size_t>(file_.gcount());
   streamPosition_ = position_ + file_.gcount();
+  if (bufferLength_ < kBufferSize) end_ = streamPosition_;
   return bufferLength_;
 }
 
@@ -180,29 +182,29 @@ std::size_t ZelBinary::ReadBytes(unsigned char* destination, std::size_t count) 
 }
 
 bool ZelBinary::ReadBool() {
-  if (!CheckOpen(u"ReadBool")) return false;
+  if (!CheckOpen(u"ZelBinary::ReadBool() - attempted operation on a closed file")) return false;
   unsigned char byte = 0;
   if (ReadBytes(&byte, 1) == 1) return byte == kTrue;
-  ReportShort(u"ReadBool");
+  Report(u"ZelBinary::ReadBool() - attempted to read beyond end of file");
   return false;
 }
 
 std::int32_t ZelBinary::ReadLong() {
-  if (!CheckOpen(u"ReadLong")) return -1;
+  if (!CheckOpen(u"ZelBinary::ReadLong() - attempted operation on a closed file")) return -1;
   std::array<unsigned char, 4> b{};
   if (ReadBytes(b.data(), b.size()) == b.size()) {
     const std::uint32_t high = static_cast<std::uint32_t>(CharOf(b[2], b[3])) << 16;
     return static_cast<std::int32_t>(high | CharOf(b[0], b[1]));
   }
-  ReportShort(u"ReadLong");
+  Report(u"ZelBinary::ReadLong() - attempted to read beyond end of file");
   return 0;
 }
 
 std::int32_t ZelBinary::ReadShort() {
-  if (!CheckOpen(u"ReadShort")) return -1;
+  if (!CheckOpen(u"ZelBinary::ReadShort() - attempted operation on a closed file")) return -1;
   std::array<unsigned char, 2> b{};
   if (ReadBytes(b.data(), b.size()) == b.size()) return static_cast<std::int16_t>(CharOf(b[0], b[1]));
-  ReportShort(u"ReadShort");
+  Report(u"ZelBinary::ReadShort() - attempted to read beyond end of file");
   return 0;
 }
 
@@ -211,12 +213,11 @@ std::int32_t ZelBinary::ReadTCharFromChar_C(Text& text) {
 }
 
 std::int32_t ZelBinary::ReadTCharFromChar_C(Text& field, std::size_t capacity) {
-  constexpr TextView kOperation = u"ReadTCharFromChar_C";
   field.clear();
-  if (!CheckOpen(kOperation)) return -1;
+  if (!CheckOpen(kStringsClosed)) return -1;
   std::array<unsigned char, 2> count{};
   if (ReadBytes(count.data(), count.size()) != count.size()) {
-    ReportShort(kOperation);
+    Report(u"ZelBinary::ReadTCharFromChar_C() - attempted to read beyond end of file");
     return 0;
   }
   const std::size_t n = CharOf(count[0], count[1]);
@@ -235,8 +236,7 @@ std::int32_t ZelBinary::ReadTCharFromChar_C(Text& field, std::size_t capacity) {
 
 std::int32_t ZelBinary::ReadTCharFromChar_Z(Text& field, std::size_t capacity) {
   field.clear();
-  // The two string readers share the closed-file message of the counted one.
-  if (!CheckOpen(u"ReadTCharFromChar_C")) return -1;
+  if (!CheckOpen(kStringsClosed)) return -1;
   ZeroTerminatedDecoder decoder(field, CharactersOf(capacity));
   while (const std::size_t available = Available()) {
     const char* bytes = buffer_.data() + (position_ - bufferStart_);

@@ -65,9 +65,8 @@ class ZelBinary {
 
  private:
   void Report(TextView text);
-  // False, with the operation's closed-file message, when no file is open.
-  bool CheckOpen(TextView operation);
-  void ReportShort(TextView operation);
+  // False, with the operation's message for it, when no file is open.
+  bool CheckOpen(TextView closedMessage);
   void MoveTo(std::int64_t position);
   std::int64_t SizeOfFile();
 
@@ -83,6 +82,7 @@ class ZelBinary {
   std::vector<char> buffer_;   // a copy of the file's bytes from bufferStart_ on
   std::int64_t bufferStart_ = 0;
   std::size_t bufferLength_ = 0;
+  std::int64_t end_ = 0;                // where a read came to the end of the file, else far away
   std::int64_t streamPosition_ = 0;     // where file_ stands, or -1 when unknown
   std::vector<unsigned char> encoded_;  // a counted string's bytes, kept for its memory
 };

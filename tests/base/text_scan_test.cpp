@@ -60,6 +60,7 @@ TEST(ToRealTest, ReadsDigitsPointsAndMinusSigns) {
 
 TEST(ToRealTest, DecimalDigitsAddTenthsOfTenths) {
   EXPECT_EQ(ToReal(u"0.25"), 2 * 0.1 + 5 * (0.1 * 0.1));
+  EXPECT_EQ(ToReal(u"0.01"), 0.1 * 0.1);  // which is not quite 0.01
   EXPECT_NEAR(ToReal(u"18.01528"), 18.01528, 1e-12);
   EXPECT_EQ(ToReal(u"1.2.5"), ToReal(u"1.25"));  // a second point is skipped
   EXPECT_TRUE(std::isinf(ToReal(Text(400, u'9'))));

@@ -212,7 +212,7 @@ TEST(SettingsDocumentTest, OfSeveralValuesTheLastCountsAndASectionMayComeTwice) 
 }
 
 TEST(SettingsDocumentTest, ForeignLineEndsAndMarksAreUnderstood) {
-  SettingsDocument document(u"S", "\xEF\xBB\xBF  [S]\t\r\n\"n\"=dword:1\r\n; c\r\n");
+  SettingsDocument document(u"S", "\xEF\xBB\xBF  [S]\t\r\n\"n\"=dword:1\r\n; c\r\r\n");
   ASSERT_NE(document.Find(u"n"), nullptr);
   EXPECT_EQ(document.Bytes(), "  [S]\t\n\"n\"=dword:00000001\n; c\n");
 }

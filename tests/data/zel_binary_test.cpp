@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <optional>
 
 #include "tests/data/collecting_reporter.h"
@@ -287,8 +288,10 @@ TEST_F(ZelBinaryTest, SeekingMovesAndReports) {
 TEST_F(ZelBinaryTest, ATargetBeforeTheStartChangesNothing) {
   ZelBinary& file = Of("\x00\x01\x02\x03"sv);
   file.SeekTo(2);
-  EXPECT_EQ(file.SeekTo(-1), -1);
-  EXPECT_EQ(file.FilePos(), 2u);
+  for (const std::int32_t before : {-1, -2, std::numeric_limits<std::int32_t>::min()}) {
+    EXPECT_EQ(file.SeekTo(before), -1);
+    EXPECT_EQ(file.FilePos(), 2u);
+  }
   file.SeekBy(-3);
   EXPECT_EQ(file.FilePos(), 2u);
   file.SeekBy(std::numeric_limits<std::int32_t>::min());
