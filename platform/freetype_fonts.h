@@ -62,7 +62,7 @@ class FreetypeFont final : public Font {
   FontSpec spec_;
   FaceSet& faces_;
   std::size_t face_;
-  int pixels_;  // the em size used: that of the specification within sensible bounds
+  int pixels_;  // the em size used: the one asked for, within sensible bounds
 };
 
 // Fonts whose files are searched in these folders, in this order.

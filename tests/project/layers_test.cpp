@@ -71,9 +71,11 @@ TEST(LayerIncludes, LetsOnlyTheMainFileSeeHosts) {
   const FileMap files = {{"app/main.cpp", "#include \"platform/host_sdl.h\"\n"},
                          {"app/application.cpp", "#include \"platform/host.h\"\n"},
                          {"platform/host_sdl.cpp", "#include \"platform/host_sdl.h\"\n"},
+                         {"app/main_window.cpp", "#include \"platform/host_sdl.h\"\n"},
                          {"framework/panel.cpp", "#include \"platform/host_headless.h\"\n"}};
   EXPECT_THAT(CheckIncludes(files, SmallTable()),
-              ElementsAre(AllOf(HasSubstr("framework/panel.cpp:1"), HasSubstr("main file alone"))));
+              ElementsAre(HasSubstr("app/main_window.cpp:1"),
+                          AllOf(HasSubstr("framework/panel.cpp:1"), HasSubstr("main file alone"))));
 }
 
 TEST(LayerIncludes, KeepsScreensApart) {

@@ -63,6 +63,8 @@ TEST_F(Tree, LinksOnlyToWhatExists) { EXPECT_THAT(CheckLinks(files_), IsEmpty())
 
 TEST_F(Tree, HasAnIndexOfItsPages) { EXPECT_THAT(CheckIndex(files_), IsEmpty()); }
 
+TEST_F(Tree, MentionsOnlyPagesThatExist) { EXPECT_THAT(CheckMentions(files_), IsEmpty()); }
+
 TEST_F(Tree, StandsByItself) { EXPECT_THAT(CheckWords(files_), IsEmpty()); }
 
 }  // namespace
