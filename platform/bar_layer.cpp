@@ -19,8 +19,7 @@ constexpr Size kIcon{16, 16};
 // opens.
 constexpr int kDropDownIconLeft = 1;
 constexpr int kArrowReach = 3;
-constexpr Point kArrow{18, 12};
-constexpr int kF10 = VK_F1 + 9;
+constexpr Point kArrow{17, 12};
 
 }  // namespace
 
@@ -174,17 +173,7 @@ void MenuBarArea::PenUp(Point point) {
   if (push && PositionAt(point) == position) Activate(position);
 }
 
-// --- Keys
-
-bool MenuBarArea::KeyDown(int key, Modifiers modifiers) {
-  if (key != kF10 || modifiers != Modifiers{}) return false;
-  for (int position = 0; ButtonAt(position) != nullptr; ++position) {
-    if (!OpenMenu(position)) continue;
-    device_.Popups().SelectFirst();
-    return true;
-  }
-  return false;
-}
+// --- From the open menu
 
 void MenuBarArea::MenuClosed() {
   if (opened_ == kNone) return;

@@ -42,7 +42,6 @@ class MenuBarArea final : public BarLayer {
   void PenDown(Point point) override;
   void PenMove(Point point) override;
   void PenUp(Point point) override;
-  bool KeyDown(int key, Modifiers modifiers) override;
   bool Behind() const override { return device_.Panel().Visible() != panelShown_; }
   void CatchUp() override;
 

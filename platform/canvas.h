@@ -90,7 +90,7 @@ class Canvas {
 
   // Copies a part of a picture, blending by its alpha.
   virtual void DrawImage(const Image& image, Point at, const Rect& source) = 0;
-  // The same for what is disabled: drawn at two fifths of its strength.
+  // The same for what is disabled: at two fifths of its strength, where the implementation can.
   virtual void DrawFaintImage(const Image& image, Point at, const Rect& source) {
     DrawImage(image, at, source);
   }

@@ -53,26 +53,25 @@ void DrawPush(Canvas& canvas, const Rect& rect, TextView label, const Font& font
 }
 
 void DrawArrow(Canvas& canvas, Direction direction, Point at, int reach, Colour colour) {
-  // Rows (or columns) of 1, 3, 5… pixels: crisp at whole scales, and symmetric at every scale.
-  for (int i = 0; i < reach; ++i) {
-    const int length = 2 * i + 1;
-    const int inset = reach - 1 - i;
-    const int away = reach - 1 - i;
-    switch (direction) {
-      case Direction::kUp:
-        canvas.FillRect(Rect::At(at.x + inset, at.y + i, length, 1), colour);
-        break;
-      case Direction::kDown:
-        canvas.FillRect(Rect::At(at.x + inset, at.y + away, length, 1), colour);
-        break;
-      case Direction::kLeft:
-        canvas.FillRect(Rect::At(at.x + i, at.y + inset, 1, length), colour);
-        break;
-      case Direction::kRight:
-        canvas.FillRect(Rect::At(at.x + away, at.y + inset, 1, length), colour);
-        break;
-    }
+  const bool upright = direction == Direction::kUp || direction == Direction::kDown;
+  const int right = at.x + (upright ? 2 * reach : reach);
+  const int bottom = at.y + (upright ? reach : 2 * reach);
+  std::array<Point, 3> corners{};
+  switch (direction) {
+    case Direction::kUp:
+      corners = {Point{at.x, bottom}, {at.x + reach, at.y}, {right, bottom}};
+      break;
+    case Direction::kDown:
+      corners = {Point{at.x, at.y}, {right, at.y}, {at.x + reach, bottom}};
+      break;
+    case Direction::kLeft:
+      corners = {Point{right, at.y}, {right, bottom}, {at.x, at.y + reach}};
+      break;
+    case Direction::kRight:
+      corners = {Point{at.x, at.y}, {right, at.y + reach}, {at.x, bottom}};
+      break;
   }
+  canvas.Polygon(corners, colour);
 }
 
 void DrawTick(Canvas& canvas, Point p, Colour colour) {

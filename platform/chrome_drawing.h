@@ -25,8 +25,8 @@ struct PushLook {
 };
 void DrawPush(Canvas& canvas, const Rect& rect, TextView label, const Font& font, PushLook look);
 
-// A small filled triangle: its base is 2 × `reach` − 1 pixels wide and it is `reach` high; `at` is the top
-// left corner of that box (of reach × (2 × reach − 1) for left and right).
+// A small filled triangle with a base of 2 × `reach` and a height of `reach`; `at` is the top left corner of
+// the box round it.
 void DrawArrow(Canvas& canvas, Direction direction, Point at, int reach, Colour colour);
 
 void DrawTick(Canvas& canvas, Point topLeft, Colour colour);  // 9 × 7

@@ -26,6 +26,6 @@ inline FontSpec TextFont(int pixels, bool bold = false) { return {u"Tahoma", pix
 inline constexpr int kTitlePixels = 13;
 inline constexpr int kMenuPixels = 13;
 inline constexpr int kBodyPixels = 12;
-inline constexpr int kSmallPixels = 10;
+inline constexpr int kSmallPixels = 11;
 
 }  // namespace orvane::chrome

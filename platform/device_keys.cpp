@@ -36,13 +36,16 @@ void Device::Parts::OpenFirstMenu() {
   MenuBars& bars = layers.Bar();
   const int count = bars.Count(bars.Shown());
   for (int position = 0; position < count; ++position) {
-    if (bars.OpenMenu(position)) return;
+    if (!bars.OpenMenu(position)) continue;
+    layers.Popup().SelectFirst();
+    return;
   }
 }
 
-void Device::Parts::HandleKeyDown(int key, Modifiers modifiers) {
+void Device::Parts::HandleKeyDown(int key, Modifiers modifiers, bool byPen) {
   keys.Down(key, modifiers);
-  if (layerHasPen == 0) lastPressWasTouch = false;
+  if (!byPen) lastPressWasTouch = false;
+  layerTookKey = false;
   altAlone = key == VK_MENU;
   if (ChangeScaleByKey(key, modifiers)) return;
   for (auto slot = layers.Slots().rbegin(); slot != layers.Slots().rend(); ++slot) {
@@ -50,6 +53,7 @@ void Device::Parts::HandleKeyDown(int key, Modifiers modifiers) {
     const bool modal = slot->layer->Modal();
     if (!slot->layer->KeyDown(key, modifiers) && !modal) continue;
     altAlone = false;
+    layerTookKey = true;
     return;
   }
   if (quitCode || FireAccelerator(key, modifiers)) return;
@@ -63,13 +67,16 @@ void Device::Parts::HandleKeyDown(int key, Modifiers modifiers) {
 
 void Device::Parts::HandleKeyUp(int key, Modifiers modifiers) {
   keys.Up(key, modifiers);
+  layerTookKey = false;
   const bool seen = keys.ForgetWindowSaw(key);
   if (quitCode || layers.Modal() != nullptr) return;
   if (seen) Send(focus, WM_KEYUP, static_cast<WParam>(static_cast<std::uint32_t>(key)), 0);
   if (key == VK_MENU && std::exchange(altAlone, false)) OpenFirstMenu();
 }
 
+// The space that dismisses a message box must not be typed into the text box that appears below it.
 void Device::Parts::HandleCharacter(Char character) {
+  if (layerTookKey) return;
   for (auto slot = layers.Slots().rbegin(); slot != layers.Slots().rend(); ++slot) {
     if (!slot->layer->Visible()) continue;
     const bool modal = slot->layer->Modal();
@@ -88,7 +95,10 @@ void Device::Parts::HandleClose() {
 }
 
 void Device::KeyDown(int key, Modifiers modifiers) {
-  parts_->Input([parts = parts_.get(), key, modifiers] { parts->HandleKeyDown(key, modifiers); });
+  // The key may have to queue, and is handled when the pen has long been lifted.
+  const bool byPen = parts_->layerHasPen > 0;
+  parts_->Input(
+      [parts = parts_.get(), key, modifiers, byPen] { parts->HandleKeyDown(key, modifiers, byPen); });
 }
 
 void Device::KeyUp(int key, Modifiers modifiers) {

@@ -51,7 +51,7 @@ struct Device::Parts {
   void PenToLayer(Layer& layer, void (Layer::*operation)(Point), Point point);
   void PenToWindow(std::uint32_t message, Point point);
   WindowHandle WindowAt(Point point) const;
-  void HandleKeyDown(int key, Modifiers modifiers);
+  void HandleKeyDown(int key, Modifiers modifiers, bool byPen);
   void HandleKeyUp(int key, Modifiers modifiers);
   void HandleCharacter(Char character);
   bool ChangeScaleByKey(int key, Modifiers modifiers);
@@ -95,6 +95,7 @@ struct Device::Parts {
   Layer* penLayer = nullptr;           // took the pen when it went down
   WindowHandle penWindow = kNoWindow;  // likewise
   bool altAlone = false;               // Alt went down and no other key since
+  bool layerTookKey = false;           // the key that is down is a layer's, and so is its character
   bool lastPressWasTouch = false;
   int layerHasPen = 0;  // calls of a layer's pen operations that have not returned
   bool waitCursor = false;

@@ -158,7 +158,8 @@ void DialogArea::Paint(Canvas& canvas) {
   }
 }
 
-// One line from the top of its rectangle, clipped to it.
+// One line from the top of its rectangle, clipped to its sides. Descenders and underscores may reach out
+// below.
 void DialogArea::PaintLabel(Canvas& canvas, const DialogLabel& label) const {
   if (label.text.empty()) return;
   const FontSpec spec{label.face, PixelsFromPoints(label.points), label.bold, false, false};
@@ -167,7 +168,7 @@ void DialogArea::PaintLabel(Canvas& canvas, const DialogLabel& label) const {
   int x = label.rect.left;
   if (label.align == Align::kCentre) x += spare / 2;
   if (label.align == Align::kRight) x += spare;
-  canvas.PushClip(label.rect);
+  canvas.PushClip({label.rect.left, label.rect.top, label.rect.right, label.rect.bottom + font.Descent()});
   canvas.DrawRun(label.text, {x, label.rect.top}, font, label.colour, canvas.NextTextLine());
   canvas.PopClip();
 }

@@ -232,8 +232,10 @@ bool MessageBoxArea::KeyDown(int key, Modifiers) {
 
 void MessageBoxArea::Paint(Canvas& canvas) {
   if (!Open()) return;
-  canvas.Rectangle(Rect::At({0, 0}, layout_.bounds.GetSize()), kDeepBlue, kBarFill);
+  const Rect whole = Rect::At({0, 0}, layout_.bounds.GetSize());
+  canvas.FillRect(whole, kBarFill);
   PaintCaption(canvas);
+  canvas.FrameRect(whole, kOutline);  // also sets the caption off from the title area
   DrawMessageSign(canvas, queue_.Front().icon, layout_.sign.TopLeft());
   PaintText(canvas);
   PaintButtons(canvas);

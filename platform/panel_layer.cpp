@@ -152,7 +152,9 @@ void KeyboardPanel::PaintKey(Canvas& canvas, const PanelKey& key, bool pressed) 
   const Colour ink = pressed || on ? kWhite : character ? kText : kDeepBlue;
   if (key.action != KeyAction::kCharacter) return PaintSign(canvas, key, ink);
   const Char label = KeyCharacter(key, Set(), caps_);
-  DrawLine(canvas, TextView(&label, 1), face, device_.Fonts().GetFont(TextFont(kTitlePixels)), ink,
+  // Set a little high, so that descenders keep clear of the hairline below.
+  const Rect line{face.left, face.top - 2, face.right, face.bottom};
+  DrawLine(canvas, TextView(&label, 1), line, device_.Fonts().GetFont(TextFont(kTitlePixels)), ink,
            Align::kCentre);
 }
 
@@ -167,13 +169,13 @@ void KeyboardPanel::PaintSign(Canvas& canvas, const PanelKey& key, Colour ink) c
   const Point middle{(face.left + face.right) / 2, (face.top + face.bottom) / 2};
   switch (key.virtualKey) {
     case VK_BACK:
-      canvas.FillRect({middle.x - 2, middle.y, middle.x + 6, middle.y + 1}, ink);
-      DrawArrow(canvas, Direction::kLeft, {middle.x - 6, middle.y - 3}, 4, ink);
+      canvas.FillRect({middle.x - 2, middle.y - 1, middle.x + 6, middle.y + 1}, ink);
+      DrawArrow(canvas, Direction::kLeft, {middle.x - 6, middle.y - 4}, 4, ink);
       break;
     case VK_RETURN:
-      canvas.FillRect({middle.x + 6, middle.y - 4, middle.x + 7, middle.y + 1}, ink);
-      canvas.FillRect({middle.x - 3, middle.y, middle.x + 6, middle.y + 1}, ink);
-      DrawArrow(canvas, Direction::kLeft, {middle.x - 7, middle.y - 3}, 4, ink);
+      canvas.FillRect({middle.x + 5, middle.y - 5, middle.x + 7, middle.y + 1}, ink);
+      canvas.FillRect({middle.x - 3, middle.y - 1, middle.x + 5, middle.y + 1}, ink);
+      DrawArrow(canvas, Direction::kLeft, {middle.x - 7, middle.y - 4}, 4, ink);
       break;
     case VK_SPACE:
       canvas.FillRect({middle.x - 20, middle.y + 3, middle.x + 20, middle.y + 4}, kHairline);
@@ -188,16 +190,16 @@ void KeyboardPanel::PaintArrowKey(Canvas& canvas, const PanelKey& key, Colour in
   const Point middle{(key.rect.left + key.rect.right + 1) / 2, (key.rect.top + key.rect.bottom + 1) / 2};
   switch (key.virtualKey) {
     case VK_LEFT:
-      DrawArrow(canvas, Direction::kLeft, {middle.x - 2, middle.y - 3}, 4, ink);
+      DrawArrow(canvas, Direction::kLeft, {middle.x - 2, middle.y - 4}, 4, ink);
       break;
     case VK_RIGHT:
-      DrawArrow(canvas, Direction::kRight, {middle.x - 2, middle.y - 3}, 4, ink);
+      DrawArrow(canvas, Direction::kRight, {middle.x - 2, middle.y - 4}, 4, ink);
       break;
     case VK_UP:
-      DrawArrow(canvas, Direction::kUp, {middle.x - 3, middle.y - 2}, 4, ink);
+      DrawArrow(canvas, Direction::kUp, {middle.x - 4, middle.y - 2}, 4, ink);
       break;
     case VK_DOWN:
-      DrawArrow(canvas, Direction::kDown, {middle.x - 3, middle.y - 2}, 4, ink);
+      DrawArrow(canvas, Direction::kDown, {middle.x - 4, middle.y - 2}, 4, ink);
       break;
     default:
       break;

@@ -46,10 +46,12 @@ class PixelCanvas final : public Canvas {
   std::uint32_t NextTextLine() override { return ++*lineNumbers_; }
 
   void DrawImage(const Image& image, Point at, const Rect& source) override;
+  void DrawFaintImage(const Image& image, Point at, const Rect& source) override;
   void DrawMasked(const Image& image, const Image& mask, Point at) override;
   void CopySurface(const Surface& source, const Rect& sourceRect, Point at) override;
 
  private:
+  void BlendImage(const Image& image, Point at, const Rect& source, int strength);
   Rect Clip() const { return clips_.back(); }  // in coordinates of the surface
   Rect DeviceClip() const { return grid_.Device(Clip()); }
   Rect OnSurface(const Rect& r) const { return MovedSafely(r, origin_); }

@@ -66,14 +66,22 @@ Transfer PixelCanvas::TransferTo(Point at, const Rect& part, const DeviceGrid& s
 }
 
 void PixelCanvas::DrawImage(const Image& image, Point at, const Rect& source) {
+  BlendImage(image, at, source, kFullStrength);
+}
+
+void PixelCanvas::DrawFaintImage(const Image& image, Point at, const Rect& source) {
+  BlendImage(image, at, source, kFullStrength * 2 / 5);
+}
+
+void PixelCanvas::BlendImage(const Image& image, Point at, const Rect& source, int strength) {
   const auto* png = dynamic_cast<const PngImage*>(&image);
   const Placed placed = WithinSource(source, image.GetSize(), OnSurface(at));
   const Rect target = Intersect(Rect::At(placed.at, placed.part.GetSize()), Clip());
   if (png == nullptr || placed.part.Empty() || target.Empty()) return;
   const ScaledPicture* picture = png->At(Scale());
   if (picture == nullptr) return;
-  BlendPicture(pixels_, picture->pixels, TransferTo(placed.at, placed.part, picture->grid));
-  if (picture->opaque) Cover(target);
+  BlendPicture(pixels_, picture->pixels, TransferTo(placed.at, placed.part, picture->grid), strength);
+  if (picture->opaque && strength == kFullStrength) Cover(target);
 }
 
 void PixelCanvas::DrawMasked(const Image& image, const Image& mask, Point at) {

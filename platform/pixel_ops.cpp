@@ -100,11 +100,15 @@ void BlendCoverage(PixelBuffer& target, const Coverage& coverage, Point at, cons
   }
 }
 
-void BlendPicture(PixelBuffer& target, const PixelBuffer& picture, const Transfer& t) {
+void BlendPicture(PixelBuffer& target, const PixelBuffer& picture, const Transfer& t, int strength) {
   for (int y = t.clip.top; y < t.clip.bottom; ++y) {
     const std::uint32_t* source = picture.Row(t.FromY(y));
     std::uint32_t* row = target.Row(y);
-    for (int x = t.clip.left; x < t.clip.right; ++x) row[x] = BlendPremultiplied(row[x], source[t.FromX(x)]);
+    for (int x = t.clip.left; x < t.clip.right; ++x) {
+      const std::uint32_t blended = BlendPremultiplied(row[x], source[t.FromX(x)]);
+      row[x] =
+          strength == kFullStrength ? blended : Mix(row[x], blended, static_cast<std::uint32_t>(strength));
+    }
   }
 }
 

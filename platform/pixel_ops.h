@@ -65,7 +65,10 @@ void CopyPixels(PixelBuffer& target, const PixelBuffer& source, const Transfer& 
 // Paints the colour through the coverage, whose top left corner lies at `at`.
 void BlendCoverage(PixelBuffer& target, const Coverage& coverage, Point at, const Rect& clip, Colour colour);
 
-void BlendPicture(PixelBuffer& target, const PixelBuffer& picture, const Transfer& transfer);
+// `strength` weakens the picture: 0 leaves the target as it is, kFullStrength blends by the picture's alpha
+// alone.
+inline constexpr int kFullStrength = 255;
+void BlendPicture(PixelBuffer& target, const PixelBuffer& picture, const Transfer& transfer, int strength);
 
 // Per channel: the picture where the mask is white, the bitwise AND of picture and target where it is black,
 // in proportion between the two. Where the picture is transparent the target shows through.

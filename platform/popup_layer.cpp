@@ -284,15 +284,14 @@ void PopupMenu::PaintRow(Canvas& canvas, int row, const Rect& rect, const Font& 
   const Colour mark = selected ? kWhite : enabled ? kAccent : kDimText;
   const Rect label{rect.left + kMenuMarkColumn - 1, rect.top, rect.right - 6, rect.bottom};
   if (back) {
-    DrawArrow(canvas, Direction::kLeft, {rect.left + 9, middle - 3}, 4, mark);
-    DrawLine(canvas, model_->SubmenuLabel(), label, device_.Fonts().GetFont(TextFont(kMenuPixels, true)),
-             ink);
+    DrawArrow(canvas, Direction::kLeft, {rect.left + 9, middle - 4}, 4, mark);
+    DrawLine(canvas, model_->SubmenuLabel(), label, font, selected ? kWhite : kDeepBlue);
     canvas.FillRect({rect.left, rect.bottom - 1, rect.right, rect.bottom}, kHairline);
     return;
   }
   if (item->checked && item->radio) canvas.Ellipse(Rect::At(rect.left + 8, middle - 3, 6, 6), mark, mark);
   if (item->checked && !item->radio) DrawTick(canvas, {rect.left + 6, middle - 3}, mark);
-  if (!item->submenu.empty()) DrawArrow(canvas, Direction::kRight, {rect.right - 9, middle - 3}, 4, mark);
+  if (!item->submenu.empty()) DrawArrow(canvas, Direction::kRight, {rect.right - 9, middle - 4}, 4, mark);
   DrawLine(canvas, item->label, label, font, ink);
 }
 

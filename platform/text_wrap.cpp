@@ -10,6 +10,16 @@ struct Break {
   std::size_t next = 0;
 };
 
+// Whether the word that begins at `first` has no room on any line.
+bool TooWide(TextView text, std::span<const int> widths, std::size_t first, std::size_t end, int width) {
+  int used = 0;
+  for (std::size_t i = first; i < end && text[i] != u' '; ++i) {
+    used += widths[i];
+    if (used > width) return true;
+  }
+  return false;
+}
+
 Break FindBreak(TextView text, std::span<const int> widths, std::size_t first, std::size_t end, int width) {
   std::size_t afterBlank = first;  // the next line's start if broken at the last blank; `first`: none yet
   std::size_t blankLast = first;
@@ -23,7 +33,8 @@ Break FindBreak(TextView text, std::span<const int> widths, std::size_t first, s
     }
     used += widths[i];
     if (used > width && !blank) {
-      if (afterBlank > first && blankLast > first) return {blankLast, afterBlank};
+      const bool atSlash = afterSlash > afterBlank && TooWide(text, widths, afterBlank, end, width);
+      if (afterBlank > first && blankLast > first && !atSlash) return {blankLast, afterBlank};
       if (afterSlash > first) return {afterSlash, afterSlash};
       std::size_t cut = i > first ? i : first + 1;
       if (cut < end && IsLowSurrogate(text[cut]) && cut - 1 > first) --cut;

@@ -17,10 +17,10 @@ struct WrappedLine {
 };
 
 // `widths` holds the advance of each unit. A line ends at a line feed (a carriage return before it belongs to
-// it); a line that is too wide is broken after its last blank that leaves a part that fits, else after its
-// last slash or backslash (a file path), else before the character that no longer fits. Every line has at
-// least one character, so that a width of nothing still ends. Blanks at a break take no room. At least one
-// line.
+// it); a line that is too wide is broken after its last blank; within a word that no line could hold, after
+// its last slash or backslash (a file path) that fits, else before the character that no longer fits. Every
+// line has at least one character, so that a width of nothing still ends. Blanks at a break take no room. At
+// least one line.
 std::vector<WrappedLine> WrapText(TextView text, std::span<const int> widths, int width);
 
 }  // namespace orvane
