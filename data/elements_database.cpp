@@ -98,9 +98,10 @@ void ElementsDatabase::ReadProperty(ZelBinary& file, std::vector<ElementProperty
 }
 
 void ElementsDatabase::ReadValues(ZelBinary& file, ElementProperty& property) {
+  const std::int32_t count = file.ReadShort();
+  if (count <= 0) return;
   // The entries may come in any order and repeat; they are packed by element once all are read.
   std::array<TextPool::Id, kElementCount> slots{};
-  const std::int32_t count = file.ReadShort();
   for (std::int32_t i = 0; i < count; ++i) {
     const int element = file.ReadShort() - 1;
     file.ReadTCharFromChar_C(scratch_);
