@@ -23,6 +23,7 @@ class ctlToolbar {
   void Hide();
   void Destroy();
 
+  WindowHandle Owner() const { return owner_; }
   BarHandle Handle() const { return hwndBar_; }
 
  private:

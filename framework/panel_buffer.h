@@ -17,27 +17,29 @@ class PanelBuffer {
 
   explicit PanelBuffer(Device& device) : device_(&device) {}
 
-  // Forgets everything that was painted. `content` is the whole content's size.
-  void Reset(Size content);
-  // Paints anew what is kept; `visible` is the content rectangle that shows now.
-  void Render(const Rect& visible, const Painter& paint);
+  // Forgets everything that was painted.
+  void Reset();
+  // Paints anew what is kept of a content of this size; `visible` is the content rectangle that shows now.
+  void Render(Size content, const Rect& visible, const Painter& paint);
   // Paints anew the part of the rectangle that is kept.
   void RenderRect(const Rect& rect, const Painter& paint);
   // Makes sure that `visible` is kept, painting what is missing.
   void Hold(const Rect& visible, const Painter& paint);
-  // Copies a kept content rectangle to the point of another canvas.
+  // Copies what is kept of a content rectangle to the point of another canvas.
   void Copy(Canvas& to, const Rect& content, Point at) const;
 
-  const Rect& Held() const { return held_; }
+  // The part of the content that is kept.
+  Rect Held() const { return Intersect(held_, Whole()); }
 
  private:
+  Rect Whole() const { return Rect::At({0, 0}, content_); }
   Rect RectToHold(const Rect& visible) const;
-  void PaintPart(const Rect& part, const Painter& paint);
+  void PaintPart(const Rect& wanted, const Painter& paint);
   bool Allocate(const Rect& held);
 
   Device* device_;
   Size content_;
-  Rect held_;  // the content rectangle that the surface shows
+  Rect held_;  // the content rectangle that the surface shows; may reach a little beyond the content
   std::unique_ptr<Surface> surface_;
 };
 

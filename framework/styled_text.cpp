@@ -1,7 +1,6 @@
 #include "framework/styled_text.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace orvane {
 

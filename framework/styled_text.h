@@ -3,6 +3,8 @@
 // a space is where a line may be broken, character 0 ends the text.
 #pragma once
 
+#include <cstddef>
+
 #include "base/text.h"
 
 namespace orvane {

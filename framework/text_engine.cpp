@@ -43,26 +43,31 @@ void DrawRunOf(Canvas& canvas, const FontFamily& family, const PlacedRun& run, C
   canvas.DrawRun(run.text, {run.x, top}, *family.Variant(run.style).font, colour, line);
 }
 
-// The length in visible characters and the style at the end of the longest prefix at most `room` wide, dots
-// in its final style included.
-int LongestPrefix(const FontFamily& family, TextStyle style, TextView text, int room, TextStyle& styleAtCut) {
+// Where a text that is too wide is cut: behind this many visible characters, in this style.
+struct Cut {
+  int length = 0;
+  TextStyle style;
+};
+
+// Leaves as many characters as are at most `room` wide together with dots in the style of the last of them.
+// `widths` are those of the visible characters. A surrogate pair is never parted: its second half is 0 wide.
+Cut FindCut(const FontFamily& family, TextStyle style, TextView text, const std::vector<int>& widths,
+            int room) {
+  Cut cut{0, style};
   int length = 0;
   int width = 0;
-  int best = 0;
-  styleAtCut = style;
-  const auto dotsWidth = [&] { return family.Variant(style).font->TextWidth(kDots); };
   for (StyledStep step = FirstStep(text); step.kind != StyledStep::Kind::kEnd; step = FirstStep(text)) {
     if (step.kind == StyledStep::Kind::kCode) {
       style = StyleFromFlags(step.value);
     } else {
-      width += family.Variant(style).font->TextWidth(text.substr(0, 1));
+      width += widths[static_cast<std::size_t>(length)];
       if (width > room) break;
       ++length;
-      if (width + dotsWidth() <= room) best = length, styleAtCut = style;
+      if (width + family.Variant(style).font->TextWidth(kDots) <= room) cut = {length, style};
     }
     text.remove_prefix(step.length);
   }
-  return best;
+  return cut;
 }
 
 }  // namespace
@@ -140,14 +145,13 @@ void TextEngine::DrawTextEllipsis(Canvas& canvas, TextView text, int x, int y, c
     DrawText(canvas, text, x, y);
     return;
   }
-  TextStyle styleAtCut;
-  const int length = LongestPrefix(*family_, BaseStyle(), text, clip.Width(), styleAtCut);
+  const Cut cut = FindCut(*family_, BaseStyle(), text, GetCharWidths(text), clip.Width());
   const std::uint32_t line = canvas.NextTextLine();
-  const Text prefix = CopyVisible(text, 0, length);
+  const Text prefix = CopyVisible(text, 0, cut.length);
   TextFlow flow = MakeFlow(*family_, BaseStyle(), {x, y}, x, nullptr,
                            [&](const PlacedRun& run) { DrawRunOf(canvas, *family_, run, colour_, line); });
   flow.Add(prefix);
-  DrawRunOf(canvas, *family_, {kDots, styleAtCut, flow.Pen().x, flow.Pen().y, 0}, colour_, line);
+  DrawRunOf(canvas, *family_, {kDots, cut.style, flow.Pen().x, flow.Pen().y, 0}, colour_, line);
 }
 
 }  // namespace orvane

@@ -8,7 +8,7 @@
 // wrapped, and further lines start at x.
 #pragma once
 
-#include <optional>
+#include <cstdint>
 #include <vector>
 
 #include "framework/font_family.h"
@@ -36,12 +36,15 @@ class TextEngine {
   // The top left corner of the first line box is (x, y). Nothing is drawn when the rectangle's bottom is
   // negative.
   void DrawText(Canvas& canvas, TextView text, int x, int y, const Rect* clip = nullptr) const;
-  // Goes on at `origin` and moves it behind the text; x is where further lines start without a rectangle.
+  // Goes on at `origin` and moves it behind the text, unless nothing is drawn; x is where further lines start
+  // without a rectangle.
   void DrawTextAt(Canvas& canvas, TextView text, int x, int y, const Rect* clip, TextOrigin& origin) const;
 
   // Width of the widest line and the lines' heights together; an empty text is one line high. With a
   // rectangle the text is measured as it would be wrapped from the rectangle's top left corner.
   Size MeasureText(TextView text, const Rect* clip = nullptr) const;
+  // Goes on at `origin` and moves it behind the text. Without a rectangle further lines start at x 0. The
+  // width is that of the widest line since the flow began, the height that of the lines this text touches.
   Size MeasureTextAt(TextView text, const Rect* clip, TextOrigin& origin) const;
 
   // One width for each visible character, in the style it would have.

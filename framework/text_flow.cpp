@@ -21,12 +21,13 @@ void TextFlow::Add(TextView text) {
   std::size_t at = 0;
   for (;;) {
     const StyledStep step = FirstStep(text.substr(at));
-    const bool space = step.kind == StyledStep::Kind::kCharacter && step.value == u' ';
-    const bool newLine = step.kind == StyledStep::Kind::kCharacter && step.value == kNewLine;
-    const bool ordinary = step.kind == StyledStep::Kind::kCharacter && !space && !newLine;
+    const bool character = step.kind == StyledStep::Kind::kCharacter;
+    // Without wrapping a space ends no word, so that a line has as few runs as its styles need.
+    const bool space = wraps_ && character && step.value == u' ';
+    const bool newLine = character && step.value == kNewLine;
+    const bool ordinary = character && !space && !newLine;
     if (!ordinary) AddPiece(text.substr(start, at - start + (space ? 1 : 0)));
-    // Without wrapping a line is placed in as few runs as its styles need.
-    if ((space && wraps_) || newLine || step.kind == StyledStep::Kind::kEnd) PlaceWord();
+    if (space || newLine || step.kind == StyledStep::Kind::kEnd) PlaceWord();
     if (step.kind == StyledStep::Kind::kEnd) return;
     if (step.kind == StyledStep::Kind::kCode) style_ = StyleFromFlags(step.value);
     if (newLine) BreakLine();
@@ -36,15 +37,7 @@ void TextFlow::Add(TextView text) {
 }
 
 void TextFlow::AddPiece(TextView text) {
-  if (text.empty()) return;
-  // Pieces of one style that follow each other in the text are one run.
-  if (!word_.empty() && word_.back().style == style_ &&
-      word_.back().text.data() + word_.back().text.size() == text.data()) {
-    word_.back().text = TextView(word_.back().text.data(), word_.back().text.size() + text.size());
-  } else {
-    word_.push_back({text, style_, 0});
-  }
-  word_.back().width = family_.Variant(style_).font->TextWidth(word_.back().text);
+  if (!text.empty()) word_.push_back({text, style_, family_.Variant(style_).font->TextWidth(text)});
 }
 
 int TextFlow::WordWidth() const {

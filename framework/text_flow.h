@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "framework/font_family.h"
 #include "framework/styled_text.h"

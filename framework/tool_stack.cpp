@@ -4,6 +4,11 @@
 
 namespace orvane {
 
+void ToolStack::Push(ZelWindow* tool) {
+  Remove(tool);
+  tools_.push_back(tool);
+}
+
 void ToolStack::Remove(ZelWindow* tool) { std::erase(tools_, tool); }
 
 void ToolStack::MoveToTop(ZelWindow* tool) {

@@ -9,7 +9,8 @@ class ZelWindow;
 
 class ToolStack {
  public:
-  void Push(ZelWindow* tool) { tools_.push_back(tool); }
+  // On top; a tool stands in the stack once.
+  void Push(ZelWindow* tool);
   // Later entries move down; an absent tool changes nothing.
   void Remove(ZelWindow* tool);
   // The tool becomes the last entry; an absent tool changes nothing.

@@ -15,8 +15,8 @@ constexpr double kLargestStep = 1'000'000;  // keeps the step an int, whatever t
 // A pen step along one axis, scaled by content over client, or the raw one where that is larger.
 int AcceleratedStep(int raw, int content, int client) {
   if (content <= 0 || client <= 0) return raw;
-  const double scaled = std::clamp(raw * (content * kAcceleration) / client, -kLargestStep, kLargestStep);
-  const int step = static_cast<int>(scaled);
+  const double scaled = static_cast<double>(raw) * content * kAcceleration / client;
+  const int step = static_cast<int>(std::clamp(scaled, -kLargestStep, kLargestStep));
   return std::abs(step) > std::abs(raw) ? step : raw;
 }
 
@@ -72,6 +72,10 @@ Size ZelPanel::UsableSize() const {
   return {client.width - frame, client.height - frame};
 }
 
+Size ZelPanel::BufferedSize() const {
+  return {std::min(bufferWidth, contentWidth), std::min(bufferHeight, contentHeight)};
+}
+
 Rect ZelPanel::VisibleContent() const { return Rect::At({scrollX, scrollY}, UsableSize()); }
 
 Point ZelPanel::ContentPoint(Point client) const {
@@ -86,10 +90,8 @@ PanelBuffer::Painter ZelPanel::Painter() {
 }
 
 void ZelPanel::ResetBuffer() {
-  if (privateBuffer) {
-    buffer_.Reset({std::min(bufferWidth, contentWidth), std::min(bufferHeight, contentHeight)});
-  } else {
-    buffer_.Reset({});
+  buffer_.Reset();
+  if (!privateBuffer) {
     bufferWidth = UsableSize().width;
     bufferHeight = UsableSize().height;
   }
@@ -114,7 +116,7 @@ void ZelPanel::PaintWindow() {
   const Rect inside = Rect::At({frame, frame}, visible.GetSize());
   if (privateBuffer) {
     if (stale_) {
-      buffer_.Render(visible, Painter());
+      buffer_.Render(BufferedSize(), visible, Painter());
     } else {
       buffer_.Hold(visible, Painter());
     }
@@ -143,8 +145,8 @@ void ZelPanel::PaintWindow() {
 void ZelPanel::FillUncovered(Canvas& canvas) const {
   const int frame = bordered ? kFrame : 0;
   const Size size = UsableSize();
-  const int right = std::clamp(std::min(bufferWidth, contentWidth) - scrollX, 0, size.width);
-  const int bottom = std::clamp(std::min(bufferHeight, contentHeight) - scrollY, 0, size.height);
+  const int right = std::clamp(BufferedSize().width - scrollX, 0, std::max(size.width, 0));
+  const int bottom = std::clamp(BufferedSize().height - scrollY, 0, std::max(size.height, 0));
   canvas.FillRect(Rect{right, 0, size.width, size.height}.Offset(frame, frame), background);
   canvas.FillRect(Rect{0, bottom, right, size.height}.Offset(frame, frame), background);
 }

@@ -24,8 +24,8 @@ class ZelPanel : public ZelWindow {
  public:
   ZelPanel(Shell& shell, WindowHandle parent, bool topLevel);
 
-  // What the owner sets, in logical pixels. After a change of buffer or content size or of privateBuffer:
-  // ResetBuffer, then Redraw.
+  // What the owner sets, in logical pixels. After a change of privateBuffer: ResetBuffer; after a change of
+  // the buffer's or the content's size: Redraw.
   int bufferWidth = 0;
   int bufferHeight = 0;
   int contentWidth = 100;
@@ -73,6 +73,7 @@ class ZelPanel : public ZelWindow {
   Rect VisibleContent() const;  // the content rectangle that shows; may reach beyond the content
 
  private:
+  Size BufferedSize() const;  // how much of the content a private buffer has
   void PaintWindow();
   void FillUncovered(Canvas& canvas) const;
   void OnPenDown(Point point);
