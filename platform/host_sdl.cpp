@@ -1,0 +1,339 @@
+#include "platform/host_sdl.h"
+
+#include <SDL.h>
+#include <cairo.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <vector>
+
+#include "platform/device.h"
+#include "platform/host_sdl_input.h"
+#include "platform/window_scale.h"
+
+namespace orvane {
+namespace {
+
+constexpr Size kUnknownDesktop{1024, 768};
+
+std::int64_t Now() { return static_cast<std::int64_t>(SDL_GetTicks64()); }
+
+void SetHints() {
+  // A frame in plain memory: an accelerated one would load the machine's whole graphics stack.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
+  SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+  SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+  SDL_SetHint(SDL_HINT_TOUCH_MOUSE_EVENTS, "0");
+  SDL_SetHint(SDL_HINT_MOUSE_TOUCH_EVENTS, "0");
+  SDL_SetHint(SDL_HINT_APP_NAME, "Orvane");
+  SDL_SetHint("SDL_VIDEO_X11_WMCLASS", "orvane");
+  SDL_SetHint("SDL_VIDEO_WAYLAND_WMCLASS", "orvane");
+}
+
+Size DesktopSize() {
+  SDL_Rect usable;
+  if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return kUnknownDesktop;
+  return {usable.w, usable.h};
+}
+
+// Four bytes a pixel, 0x00RRGGBB in each: the frame's own layout.
+bool IsFrameFormat(const SDL_PixelFormat& format) {
+  return format.BytesPerPixel == 4 && format.Rmask == 0xFF0000u && format.Gmask == 0xFF00u &&
+         format.Bmask == 0xFFu;
+}
+
+struct SurfaceCloser {
+  void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+};
+using OwnSurface = std::unique_ptr<SDL_Surface, SurfaceCloser>;
+
+struct WindowCloser {
+  void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+};
+
+struct CursorCloser {
+  void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }
+};
+using Cursor = std::unique_ptr<SDL_Cursor, CursorCloser>;
+
+struct PngReader {
+  std::span<const unsigned char> rest;
+
+  static cairo_status_t Read(void* self, unsigned char* data, unsigned int length) {
+    std::span<const unsigned char>& rest = static_cast<PngReader*>(self)->rest;
+    if (rest.size() < length) return CAIRO_STATUS_READ_ERROR;
+    std::memcpy(data, rest.data(), length);
+    rest = rest.subspan(length);
+    return CAIRO_STATUS_SUCCESS;
+  }
+};
+
+// Cairo's colours are multiplied by their alpha, the window system wants them plain.
+std::uint32_t Unmultiplied(std::uint32_t pixel) {
+  const std::uint32_t alpha = pixel >> 24;
+  if (alpha == 0) return 0;
+  std::uint32_t plain = alpha << 24;
+  for (const int shift : {0, 8, 16}) {
+    const std::uint32_t channel = (pixel >> shift) & 0xFFu;
+    plain |= std::min((channel * 255 + alpha / 2) / alpha, 255u) << shift;
+  }
+  return plain;
+}
+
+void SetIcon(SDL_Window* window, std::span<const unsigned char> png) {
+  if (png.empty()) return;
+  PngReader reader{png};
+  cairo_surface_t* image = cairo_image_surface_create_from_png_stream(PngReader::Read, &reader);
+  if (cairo_surface_status(image) == CAIRO_STATUS_SUCCESS &&
+      cairo_image_surface_get_format(image) == CAIRO_FORMAT_ARGB32) {
+    const int width = cairo_image_surface_get_width(image);
+    const int height = cairo_image_surface_get_height(image);
+    const OwnSurface icon(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_ARGB8888));
+    for (int y = 0; icon && y < height; ++y) {
+      const unsigned char* from =
+          cairo_image_surface_get_data(image) + y * cairo_image_surface_get_stride(image);
+      auto* to = static_cast<unsigned char*>(icon->pixels) + y * icon->pitch;
+      for (int x = 0; x < width; ++x, from += 4, to += 4) {
+        std::uint32_t pixel = 0;
+        std::memcpy(&pixel, from, sizeof pixel);
+        pixel = Unmultiplied(pixel);
+        std::memcpy(to, &pixel, sizeof pixel);
+      }
+    }
+    if (icon) SDL_SetWindowIcon(window, icon.get());
+  }
+  cairo_surface_destroy(image);
+}
+
+// The video subsystem lives as long as this.
+struct Video {
+  bool open = false;
+  Video() {
+    SDL_SetMainReady();
+    SetHints();
+    open = SDL_Init(SDL_INIT_VIDEO) == 0;
+  }
+  ~Video() { SDL_Quit(); }
+  Video(const Video&) = delete;
+  Video& operator=(const Video&) = delete;
+};
+
+}  // namespace
+
+struct SdlHost::Window {
+  explicit Window(SdlHostOptions given) : options(std::move(given)) {}
+
+  bool Open(std::string& error);
+  void FitToSurface();
+  Placement GetPlacement() const;
+  void PrepareFrame(int width, int height);
+  void Show(const Rect& devicePixels);
+  bool HandleWindow(const SDL_Event& event, Device& device);
+  void Follow(Device& device, DesktopInput& input);
+
+  SdlHostOptions options;
+  Video video;  // before everything that belongs to it
+  std::unique_ptr<SDL_Window, WindowCloser> window;
+  Cursor arrow;
+  Cursor wait;
+  OwnSurface shadow;  // the frame when the window's surface cannot hold it: other pixels, or too small
+  SDL_Surface* surface = nullptr;  // the window's, owned by the library
+  Point origin;                    // of the frame in the surface
+  double scale = 1;
+  std::uint32_t raiseEvent = 0;
+  bool resized = false;
+};
+
+bool SdlHost::Window::Open(std::string& error) {
+  if (video.open) {
+    scale = RememberedScale(options.scale, DesktopSize());
+    const Size size = FrameSize(scale);
+    window.reset(SDL_CreateWindow(options.title.c_str(), SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED,
+                                  size.width, size.height, SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI));
+    if (window) surface = SDL_GetWindowSurface(window.get());
+  }
+  if (surface == nullptr) {
+    error = SDL_GetError();
+    return false;
+  }
+  SDL_SetWindowMinimumSize(window.get(), kScreenSize.width, kScreenSize.height);
+  raiseEvent = SDL_RegisterEvents(1);
+  FitToSurface();
+  return true;
+}
+
+// Takes the window's surface as it is now, black, with the largest screen that fits.
+void SdlHost::Window::FitToSurface() {
+  surface = SDL_GetWindowSurface(window.get());
+  if (surface == nullptr) return;
+  SDL_FillRect(surface, nullptr, 0);
+  scale = ScaleForWindow({surface->w, surface->h});
+}
+
+Placement SdlHost::Window::GetPlacement() const {
+  Placement placement;
+  SDL_GetWindowSize(window.get(), &placement.window.width, &placement.window.height);
+  if (surface != nullptr && placement.window.width > 0) {
+    placement.pixelsPerUnit = static_cast<double>(surface->w) / placement.window.width;
+  }
+  placement.frame = origin;
+  placement.scale = scale;
+  return placement;
+}
+
+// Centres a frame of this size in the surface; a window that is too small shows its middle.
+void SdlHost::Window::PrepareFrame(int width, int height) {
+  surface = SDL_GetWindowSurface(window.get());
+  if (surface == nullptr) return;
+  origin = {(surface->w - width) / 2, (surface->h - height) / 2};
+  if (IsFrameFormat(*surface->format) && !SDL_MUSTLOCK(surface) && origin.x >= 0 && origin.y >= 0 &&
+      surface->w >= width && surface->h >= height) {
+    shadow.reset();
+  } else if (!shadow || shadow->w != width || shadow->h != height) {
+    shadow.reset(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_RGB888));
+  }
+}
+
+void SdlHost::Window::Show(const Rect& devicePixels) {
+  if (surface == nullptr) return;
+  SDL_Rect source{devicePixels.left, devicePixels.top, devicePixels.Width(), devicePixels.Height()};
+  SDL_Rect target{source.x + origin.x, source.y + origin.y, source.w, source.h};
+  if (shadow) SDL_BlitSurface(shadow.get(), &source, surface, &target);
+  const SDL_Rect whole{0, 0, surface->w, surface->h};
+  SDL_Rect visible;
+  if (SDL_IntersectRect(&target, &whole, &visible) == SDL_TRUE) {
+    SDL_UpdateWindowSurfaceRects(window.get(), &visible, 1);
+  }
+}
+
+// Events of the window itself; false for those of input.
+bool SdlHost::Window::HandleWindow(const SDL_Event& event, Device& device) {
+  if (event.type == SDL_QUIT) {
+    device.CloseFromOutside();
+  } else if (event.type == SDL_WINDOWEVENT) {
+    if (event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) resized = true;
+    // The surface keeps its content; what the window system lost is shown again from it.
+    if (event.window.event == SDL_WINDOWEVENT_EXPOSED) SDL_UpdateWindowSurface(window.get());
+  } else if (event.type != raiseEvent) {
+    return false;
+  }
+  return true;
+}
+
+// Brings the device to the size that the window has now. A drag of the window's edge sends many sizes; only
+// the last of those that wait counts.
+void SdlHost::Window::Follow(Device& device, DesktopInput& input) {
+  if (!resized) return;
+  resized = false;
+  FitToSurface();
+  if (scale != device.Scale()) {
+    device.SetScale(scale);
+    if (options.scaleChanged) options.scaleChanged(scale);
+  }
+  const Size size = FrameSize(scale);
+  PrepareFrame(size.width, size.height);
+  SDL_UpdateWindowSurface(window.get());
+  device.InvalidateScreen();
+  input.SetPlacement(GetPlacement());
+}
+
+SdlHost::SdlHost(std::unique_ptr<Window> window) : window_(std::move(window)) {}
+SdlHost::~SdlHost() = default;
+
+std::unique_ptr<SdlHost> SdlHost::Open(SdlHostOptions options, std::string& error) {
+  auto window = std::make_unique<Window>(std::move(options));
+  if (!window->Open(error)) return nullptr;
+  return std::unique_ptr<SdlHost>(new SdlHost(std::move(window)));
+}
+
+double SdlHost::Scale() const { return window_->scale; }
+
+void SdlHost::Run(Device& device, const std::function<bool()>& ended) {
+  DesktopInput input(device);
+  const Size size = FrameSize(device.Scale());
+  window_->PrepareFrame(size.width, size.height);
+  input.SetPlacement(window_->GetPlacement());
+  for (bool first = true;; first = false) {
+    const std::optional<std::int64_t> next = device.Step(Now());
+    if (ended()) return;
+    if (first) SetIcon(window_->window.get(), window_->options.iconPng);
+    SDL_Event event;
+    bool pending = false;
+    if (!device.Quiescent()) {
+      pending = SDL_PollEvent(&event) != 0;
+    } else if (next) {
+      const std::int64_t delay = std::clamp<std::int64_t>(*next - Now(), 0, std::numeric_limits<int>::max());
+      pending = SDL_WaitEventTimeout(&event, static_cast<int>(delay)) != 0;
+    } else {
+      pending = SDL_WaitEvent(&event) != 0;
+    }
+    for (; pending; pending = SDL_PollEvent(&event) != 0) {
+      if (event.type == window_->raiseEvent) Raise();
+      if (!window_->HandleWindow(event, device)) input.Handle(event);
+    }
+    window_->Follow(device, input);
+  }
+}
+
+void SdlHost::Raise() {
+  SDL_Window* window = window_->window.get();
+  if ((SDL_GetWindowFlags(window) & SDL_WINDOW_MINIMIZED) != 0) SDL_RestoreWindow(window);
+  SDL_RaiseWindow(window);
+}
+
+void SdlHost::RaiseFromAnyThread() {
+  SDL_Event event{};
+  event.type = window_->raiseEvent;
+  SDL_PushEvent(&event);
+}
+
+FrameBuffer SdlHost::Frame(int width, int height) {
+  window_->PrepareFrame(width, height);
+  SDL_Surface* surface = window_->shadow ? window_->shadow.get() : window_->surface;
+  if (surface == nullptr || (!window_->shadow && !IsFrameFormat(*surface->format))) return {};
+  const int stride = surface->pitch / static_cast<int>(sizeof(std::uint32_t));
+  auto* pixels = static_cast<std::uint32_t*>(surface->pixels);
+  if (!window_->shadow) pixels += static_cast<std::ptrdiff_t>(window_->origin.y) * stride + window_->origin.x;
+  return {pixels, width, height, stride};
+}
+
+void SdlHost::FrameChanged(const Rect& devicePixels) { window_->Show(devicePixels); }
+
+bool SdlHost::SetClipboard(TextView text) { return SDL_SetClipboardText(ToUtf8(text).c_str()) == 0; }
+
+std::optional<Text> SdlHost::GetClipboard() {
+  if (SDL_HasClipboardText() == SDL_FALSE) return std::nullopt;
+  char* utf8 = SDL_GetClipboardText();
+  if (utf8 == nullptr) return std::nullopt;
+  Text text = FromUtf8(utf8);
+  SDL_free(utf8);
+  return text;
+}
+
+// The cursors are made when the first wait begins: a start does without them.
+void SdlHost::ShowWaitCursor(bool wait) {
+  if (!window_->wait) {
+    if (!wait) return;
+    window_->wait.reset(SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_WAIT));
+    window_->arrow.reset(SDL_CreateSystemCursor(SDL_SYSTEM_CURSOR_ARROW));
+  }
+  SDL_SetCursor(wait ? window_->wait.get() : window_->arrow.get());
+}
+
+void SdlHost::SetTitle(TextView title) { SDL_SetWindowTitle(window_->window.get(), ToUtf8(title).c_str()); }
+
+// The window takes the new size; its event brings the device along.
+void SdlHost::ChangeScale(int step) {
+  const Size desktop = DesktopSize();
+  const double scale = std::min(SteppedScale(window_->scale, step, ComfortableScale(desktop)),
+                                std::max(window_->scale, RememberedScale(kGreatestScale, desktop)));
+  const Size frame = FrameSize(scale);
+  const double pixelsPerUnit = window_->GetPlacement().pixelsPerUnit;
+  SDL_SetWindowSize(window_->window.get(), static_cast<int>(std::lround(frame.width / pixelsPerUnit)),
+                    static_cast<int>(std::lround(frame.height / pixelsPerUnit)));
+}
+
+}  // namespace orvane

@@ -1,0 +1,26 @@
+// The state of a played program: as one line of JSON, and as the answers that expectations ask for.
+#pragma once
+
+#include <string>
+
+#include "platform/play.h"
+
+namespace orvane {
+
+// The state as one JSON object on one line, without the line's end.
+std::string ReportLine(PlayedProgram& program);
+
+// The title in the title area: that of the topmost visible window that the main window owns, the program's
+// name without one.
+Text ShownTitle(const Device& device);
+
+// The visible lines of text, bottom window first: the runs of each line joined without blanks.
+std::vector<Text> VisibleLines(const Device& device);
+
+// The text without its style codes: U+0001 and the character behind it.
+Text WithoutStyleCodes(TextView text);
+
+// The first entry with this label in a menu or below it; null when there is none.
+const MenuItem* FindEntry(const std::vector<MenuItem>& items, TextView label);
+
+}  // namespace orvane
