@@ -94,6 +94,23 @@ TEST_F(Pictures, BlendByTheirAlpha) {
   EXPECT_EQ(Blended(0x40000000, Rgb(200, 100, 40)), 0x964B1Eu);  // × 191/255: 149.8, 74.9, 29.96
 }
 
+// Two fifths: 255 × 2/5 = 102 of the picture and 153 of what was there.
+TEST_F(Pictures, FaintOnesHaveTwoFifthsOfTheirStrength) {
+  const auto faint = [&](std::uint32_t pixel, Colour background) {
+    const TestPicture picture({1, 1}, {pixel});
+    const auto surface = graphics_->CreateSurface({1, 1}, 1, true);
+    Canvas& c = surface->GetCanvas();
+    c.FillRect({0, 0, 1, 1}, background);
+    c.DrawRun(u"i", {0, -5}, graphics_->Fonts().GetFont({u"Tahoma", 9}), background, 1);
+    c.DrawFaintImage(*graphics_->LoadImage(picture.Encoded()), {0, 0}, {0, 0, 1, 1});
+    EXPECT_EQ(surface->Runs().size(), 1u);  // what is behind can be seen still
+    return surface->DevicePixel(0, 0);
+  };
+  EXPECT_EQ(faint(kW, kBlack), 0x666666u);
+  EXPECT_EQ(faint(kR, kWhite), 0xFF9999u);
+  EXPECT_EQ(faint(kNone, Rgb(1, 2, 3)), 0x010203u);
+}
+
 TEST_F(Pictures, FractionalScalesUseTheNextLargerData) {
   // Only the data for 2 is blue; at 1.25 it is the nearest larger one.
   const TestPicture red({4, 4}, std::vector<std::uint32_t>(16, kR));
