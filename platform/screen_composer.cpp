@@ -48,11 +48,24 @@ void DrawItem(const ScreenItem& item, const Rect& area, double scale, Graphics& 
     return;
   }
   const Point at{DevicePixelEdge(item.origin.x, scale), DevicePixelEdge(item.origin.y, scale)};
-  const Rect pixels{0, 0, item.surface->DeviceWidth(), item.surface->DeviceHeight()};
-  const Rect source = Intersect(area.Offset(-at.x, -at.y), pixels);
-  if (source.Empty()) return;
-  graphics.CopyToFrame(*item.surface, source, frame.pixels, frame.stride,
-                       {source.left + at.x, source.top + at.y});
+  const Rect wanted = area.Offset(-at.x, -at.y);
+  const auto copy = [&](const Rect& source, Point shift) {
+    const Rect pixels{0, 0, item.surface->DeviceWidth(), item.surface->DeviceHeight()};
+    const Rect part = Intersect(source, pixels);
+    if (part.Empty()) return;
+    graphics.CopyToFrame(*item.surface, part, frame.pixels, frame.stride,
+                         {part.left + at.x + shift.x, part.top + at.y + shift.y});
+  };
+  // Where a surface stands, its logical size may round up to one device pixel more than it does at (0, 0),
+  // where it was drawn. Its last column and row are repeated there.
+  const Size logical = item.surface->GetSize();
+  const Rect drawn = DevicePixelRect(Rect::At({0, 0}, logical), scale);
+  copy(Intersect(wanted, drawn), {0, 0});
+  const bool wider = wanted.right > drawn.right;
+  const bool taller = wanted.bottom > drawn.bottom;
+  if (wider) copy(Intersect({drawn.right - 1, wanted.top, drawn.right, wanted.bottom}, drawn), {1, 0});
+  if (taller) copy(Intersect({wanted.left, drawn.bottom - 1, wanted.right, drawn.bottom}, drawn), {0, 1});
+  if (wider && taller) copy({drawn.right - 1, drawn.bottom - 1, drawn.right, drawn.bottom}, {1, 1});
 }
 
 }  // namespace

@@ -300,11 +300,26 @@ TEST_F(DeviceInput, ALayerThatUsesAKeyKeepsItFromTheWindows) {
   bed.ForgetMessages();
   LayerScript& dialog = ShowLayer(bed.layers.dialog, Rect::At(0, 0, 9, 9));
   device.KeyDown('A', {});
+  device.KeyUp('A', {});
   dialog.usesKeys = true;
   device.KeyDown('B', {});
-  device.Character(u'b');
-  EXPECT_THAT(dialog.told, ElementsAre("key 65", "key 66", "char 98"));
-  EXPECT_THAT(bed.trace.messages, ElementsAre(NotedMessage{panel, WM_KEYDOWN, 'A', 0}));
+  device.Character(u'b');  // the used key's own
+  device.KeyUp('B', {});
+  device.Character(u'c');
+  EXPECT_THAT(dialog.told, ElementsAre("key 65", "key 66", "char 99"));
+  EXPECT_THAT(bed.trace.messages,
+              ElementsAre(NotedMessage{panel, WM_KEYDOWN, 'A', 0}, NotedMessage{panel, WM_KEYUP, 'A', 0}));
+}
+
+TEST_F(DeviceInput, TheKeyThatAnswersAMessageBoxTypesNothingBelowIt) {
+  device.SetFocus(panel);
+  LayerScript& message = ShowLayer(bed.layers.message, Rect::At(0, 0, 9, 9), true);
+  device.KeyDown(VK_SPACE, {});
+  message.visible = false;
+  bed.ForgetMessages();
+  device.Character(u' ');
+  device.KeyUp(VK_SPACE, {});
+  EXPECT_THAT(bed.trace.messages, IsEmpty());
 }
 
 TEST_F(DeviceInput, AModalLayerGetsTheKeysAlone) {
@@ -314,8 +329,8 @@ TEST_F(DeviceInput, AModalLayerGetsTheKeysAlone) {
   LayerScript& message = ShowLayer(bed.layers.message, Rect::At(0, 0, 9, 9), true);
   LayerScript& dialog = ShowLayer(bed.layers.dialog, Rect::At(0, 0, 9, 9));
   device.KeyDown('Q', {.control = true});
-  device.Character(u'q');
   device.KeyUp('Q', {.control = true});
+  device.Character(u'q');
   EXPECT_THAT(message.told, ElementsAre("key 81", "char 113"));
   EXPECT_THAT(dialog.told, IsEmpty());
   bed.Settle();
