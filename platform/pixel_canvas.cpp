@@ -40,8 +40,7 @@ Point PixelCanvas::OnSurface(Point p) const {
 }
 
 DevicePoint PixelCanvas::PixelCentre(Point p) const {
-  return {((0.0 + grid_.X(p.x)) + grid_.X(p.x + 1)) / 2,
-          ((0.0 + grid_.Y(p.y)) + grid_.Y(p.y + 1)) / 2};
+  return {((0.0 + grid_.X(p.x)) + grid_.X(p.x + 1)) / 2, ((0.0 + grid_.Y(p.y)) + grid_.Y(p.y + 1)) / 2};
 }
 
 void PixelCanvas::FillDevice(const Rect& rect, Colour fill) {
