@@ -1,0 +1,68 @@
+#include "tests/scenarios/stage.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <string_view>
+
+namespace orvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string ReadFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteFile(const fs::path& path, std::string_view bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+// The real program folder, or a folder with a file that is damaged in the way of the name.
+std::string DataFolder(const std::string& name, const fs::path& work) {
+  if (name.empty()) return ORVANE_BIN_DIR "/";
+  const fs::path folder = work / "data";
+  fs::create_directories(folder);
+  const fs::path file = folder / "periodic.dat";
+  const std::string whole = ReadFile(ORVANE_BIN_DIR "/periodic.dat");
+  using namespace std::string_view_literals;
+  if (name == "wrong-magic") WriteFile(file, "\xFF\xE8\xEB\xDE\0\0"sv);
+  if (name == "no-categories") WriteFile(file, "\xDE\xEB\xE8\xFF\0\0"sv);
+  // Cut inside the names: their category and the one before are there, what comes later is not.
+  if (name == "truncated") WriteFile(file, whole.substr(0, 1500));
+  return folder.string() + "/";
+}
+
+std::optional<std::string> Comment(const std::string& line, std::string_view key) {
+  const std::string start = "# " + std::string(key) + ": ";
+  if (line.rfind(start, 0) != 0) return std::nullopt;
+  return line.substr(start.size());
+}
+
+}  // namespace
+
+Stage SetStage(const std::string& scriptPath, const std::string& workFolder) {
+  Stage stage;
+  stage.script = ReadFile(scriptPath);
+  std::string data;
+  std::istringstream lines(stage.script);
+  for (std::string line; std::getline(lines, line) && line.rfind("#", 0) == 0;) {
+    if (const auto value = Comment(line, "data")) data = *value;
+    if (const auto value = Comment(line, "exit")) stage.exit = std::stoi(*value);
+    if (const auto value = Comment(line, "scale")) stage.scale = std::stoi(*value);
+    if (const auto value = Comment(line, "settings")) {
+      const fs::path copy = fs::path(workFolder) / "settings.reg";
+      fs::copy_file(ORVANE_SOURCE_DIR "/tests/scenarios/settings/" + *value, copy,
+                    fs::copy_options::overwrite_existing);
+      stage.settings = copy.string();
+    }
+    if (line == "# wrong on purpose") stage.wrongOnPurpose = true;
+  }
+  stage.dataFolder = DataFolder(data, workFolder);
+  return stage;
+}
+
+}  // namespace orvane
