@@ -145,6 +145,7 @@ struct SdlHost::Window {
   double scale = 1;
   std::uint32_t raiseEvent = 0;
   bool resized = false;
+  bool marginsChanged = false;  // what surrounds the frame has not been shown yet
 };
 
 bool SdlHost::Window::Open(std::string& error) {
@@ -170,6 +171,7 @@ void SdlHost::Window::FitToSurface() {
   surface = SDL_GetWindowSurface(window.get());
   if (surface == nullptr) return;
   SDL_FillRect(surface, nullptr, 0);
+  marginsChanged = true;
   scale = ScaleForWindow({surface->w, surface->h});
 }
 
@@ -204,7 +206,10 @@ void SdlHost::Window::Show(const Rect& devicePixels) {
   if (shadow) SDL_BlitSurface(shadow.get(), &source, surface, &target);
   const SDL_Rect whole{0, 0, surface->w, surface->h};
   SDL_Rect visible;
-  if (SDL_IntersectRect(&target, &whole, &visible) == SDL_TRUE) {
+  if (marginsChanged) {
+    marginsChanged = false;
+    SDL_UpdateWindowSurface(window.get());
+  } else if (SDL_IntersectRect(&target, &whole, &visible) == SDL_TRUE) {
     SDL_UpdateWindowSurfaceRects(window.get(), &visible, 1);
   }
 }
@@ -235,7 +240,6 @@ void SdlHost::Window::Follow(Device& device, DesktopInput& input) {
   }
   const Size size = FrameSize(scale);
   PrepareFrame(size.width, size.height);
-  SDL_UpdateWindowSurface(window.get());
   device.InvalidateScreen();
   input.SetPlacement(GetPlacement());
 }

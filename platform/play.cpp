@@ -1,47 +1,44 @@
 #include "platform/play.h"
 
-#include <filesystem>
+#include <iterator>
 #include <ostream>
 
-#include "platform/host_headless.h"
 #include "platform/play_expect.h"
 #include "platform/play_report.h"
 #include "platform/play_script.h"
-#include "platform/play_trace.h"
+#include "platform/play_session.h"
 
 namespace orvane {
 namespace {
 
-// A program at rest needs a handful of steps after each input; one that takes this many never rests.
-constexpr int kMostSteps = 10000;
-
-constexpr int kStatusNotStarted = 2;
 constexpr int kStatusFailed = 3;
 constexpr int kStatusWrongScript = 4;
 
+// More dialogs than ever stand above one another.
+constexpr int kMostDialogs = 100;
+
 std::string Quoted(TextView text) { return "\"" + ToUtf8(text) + "\""; }
 
+// The hands at the hand-held: one operation for each verb.
 class Player {
  public:
   Player(const PlayOptions& options, std::ostream& out, std::ostream& errors)
-      : options_(options), out_(out), errors_(errors), host_(options.scale) {}
+      : options_(options), out_(out), session_(options, errors) {}
 
   int Run(const std::vector<PlayCommand>& commands);
 
  private:
-  bool StartProgram();
-  void EndProgram();
-  void Settle();
-  bool Running() const { return program_ && !program_->Ended() && !stuck_; }
-  Device& TheDevice() { return program_->GetDevice(); }
-  void Fail(const std::string& message);
+  bool Running() const { return session_.Running(); }
+  void Settle() { session_.Settle(); }
+  Device& TheDevice() { return session_.TheDevice(); }
+  void Fail(const std::string& message) { session_.Fail(message); }
 
   void Perform(const PlayCommand& command);
   void PerformInput(const PlayCommand& command);
   void PerformPress(const PlayCommand& command);
   void PerformOutside(const PlayCommand& command);
 
-  void PenDown(Point point);
+  bool PenDown(Point point);  // false when the pen is down already
   void PenMove(Point point);
   void PenUp(Point point);
   void Drag(const std::vector<int>& numbers);
@@ -55,104 +52,42 @@ class Player {
   void Dismiss();
   void DismissAll();
 
-  void Wait(int milliseconds);
-  void Shoot(const std::string& file);
-  void BeginTrace(const std::string& file);
-  std::string OutPath(const std::string& file) const;
-
   const PlayOptions& options_;
   std::ostream& out_;
-  std::ostream& errors_;
-  HeadlessHost host_;
-  JsonTrace trace_;
-  std::unique_ptr<PlayedProgram> program_;
-  std::optional<std::int64_t> nextTimer_;
+  PlaySession session_;
   bool penIsDown_ = false;
   Point pen_;
-  int line_ = 0;
-  bool failed_ = false;
-  bool stuck_ = false;  // the program never came to rest: nothing more can be played
 };
 
 int Player::Run(const std::vector<PlayCommand>& commands) {
   std::size_t next = 0;
   if (!commands.empty() && commands[0].verb == Verb::kTrace) {
-    line_ = commands[0].line;
-    BeginTrace(commands[0].file);
+    session_.SetLine(commands[0].line);
+    session_.BeginTrace(commands[0].file);
     next = 1;
   }
-  if (!StartProgram()) return kStatusNotStarted;
-  for (; next < commands.size() && !stuck_; ++next) {
-    line_ = commands[next].line;
+  if (!session_.Start()) return kStatusFailed;
+  for (; next < commands.size() && session_.Started() && !session_.Stuck(); ++next) {
+    session_.SetLine(commands[next].line);
     Perform(commands[next]);
-    if (options_.afterVerb && Running()) options_.afterVerb(*program_, line_);
+    if (options_.afterVerb && Running()) options_.afterVerb(session_.Program(), commands[next].line);
   }
-  if (program_) EndProgram();
-  if (failed_ || !program_) return kStatusFailed;
-  return program_->Ended().value_or(kStatusFailed);
-}
-
-bool Player::StartProgram() {
-  DeviceOptions deviceOptions;
-  deviceOptions.scale = options_.scale;
-  deviceOptions.recordRuns = true;
-  deviceOptions.panelMode = options_.panelMode;
-  deviceOptions.fontFolder = options_.fontFolder;
-  deviceOptions.trace = &trace_;
-  penIsDown_ = false;
-  nextTimer_.reset();
-  program_ = options_.start(host_, deviceOptions);
-  if (!program_) {
-    errors_ << "the program could not be started\n";
-    return false;
-  }
-  Settle();
-  return true;
-}
-
-// Ends the program as its own Exit does.
-void Player::EndProgram() {
-  if (program_->Ended()) return;
-  TheDevice().PostQuit(0);
-  for (int step = 0; step < kMostSteps && !program_->Ended(); ++step) {
-    TheDevice().Step(host_.Now());
-    program_->AfterStep();
-  }
-  if (!program_->Ended()) {
-    Fail("the program does not end");
-    stuck_ = true;
-  }
-}
-
-void Player::Settle() {
-  trace_.SetTime(host_.Now());
-  for (int step = 0; step < kMostSteps; ++step) {
-    if (!Running()) return;
-    nextTimer_ = TheDevice().Step(host_.Now());
-    program_->AfterStep();
-    if (!Running()) return;
-    if (!host_.ApplyScale(TheDevice()) && TheDevice().Quiescent()) return;
-  }
-  Fail("the program does not come to rest");
-  stuck_ = true;
-}
-
-void Player::Fail(const std::string& message) {
-  errors_ << "line " << line_ << ": " << message << '\n';
-  failed_ = true;
+  if (!session_.Started()) return kStatusFailed;
+  session_.End();
+  return session_.Failed() ? kStatusFailed : session_.Program().Ended().value_or(kStatusFailed);
 }
 
 void Player::Perform(const PlayCommand& command) {
+  PlayedProgram& program = session_.Program();
   if (command.verb >= Verb::kExpectTool) {
-    const std::string failure = CheckExpectation(command, *program_, host_);
+    const std::string failure = CheckExpectation(command, program, session_.Host());
     if (!failure.empty()) Fail(failure);
   } else if (command.verb == Verb::kReport) {
-    out_ << ReportLine(*program_) << '\n' << std::flush;
+    out_ << ReportLine(program) << '\n' << std::flush;
   } else if (command.verb == Verb::kRestart) {
-    EndProgram();
-    program_.reset();
-    if (!StartProgram()) stuck_ = true;
-  } else if (program_->Ended()) {
+    penIsDown_ = false;
+    session_.Restart();
+  } else if (program.Ended()) {
     Fail("the program has ended: only report, expect and restart may follow");
   } else {
     PerformInput(command);
@@ -163,10 +98,11 @@ void Player::PerformInput(const PlayCommand& command) {
   const std::vector<int>& numbers = command.numbers;
   switch (command.verb) {
     case Verb::kTap:
-      PenDown({numbers[0], numbers[1]});
-      return PenUp({numbers[0], numbers[1]});
+      if (PenDown({numbers[0], numbers[1]})) PenUp({numbers[0], numbers[1]});
+      return;
     case Verb::kPress:
-      return PenDown({numbers[0], numbers[1]});
+      PenDown({numbers[0], numbers[1]});
+      return;
     case Verb::kMove:
       return PenMove({numbers[0], numbers[1]});
     case Verb::kRelease:
@@ -216,26 +152,30 @@ void Player::PerformOutside(const PlayCommand& command) {
       TheDevice().CloseFromOutside();
       break;
     case Verb::kClipboard:
-      host_.SetClipboard(command.texts[0]);
+      session_.Host().SetClipboard(command.texts[0]);
       break;
     case Verb::kWait:
-      return Wait(command.numbers[0]);
+      return session_.Wait(command.numbers[0]);
     case Verb::kShot:
-      return Shoot(command.file);
+      return session_.Shoot(command.file);
     case Verb::kTrace:
-      return BeginTrace(command.file);
+      return session_.BeginTrace(command.file);
     default:
       break;
   }
   Settle();
 }
 
-void Player::PenDown(Point point) {
-  if (penIsDown_) return Fail("the pen is down already");
+bool Player::PenDown(Point point) {
+  if (penIsDown_) {
+    Fail("the pen is down already");
+    return false;
+  }
   penIsDown_ = true;
   pen_ = point;
   TheDevice().PenDown(point, PointerKind::kTouch);
   Settle();
+  return true;
 }
 
 void Player::PenMove(Point point) {
@@ -255,11 +195,10 @@ void Player::PenUp(Point point) {
 }
 
 void Player::Drag(const std::vector<int>& numbers) {
-  if (penIsDown_) return Fail("the pen is down already");
   const Point from{numbers[0], numbers[1]};
   const Point to{numbers[2], numbers[3]};
   const int steps = numbers[4];
-  PenDown(from);
+  if (!PenDown(from)) return;
   // The division cuts towards zero: a drag to the left mirrors one to the right.
   for (int k = 1; k <= steps; ++k) {
     PenMove({from.x + k * (to.x - from.x) / steps, from.y + k * (to.y - from.y) / steps});
@@ -385,38 +324,10 @@ void Player::Dismiss() {
 void Player::DismissAll() {
   TheDevice().Boxes().DismissAll();
   Settle();
-  for (int count = 0; count < kMostSteps && Running() && TheDevice().DialogBoxes().DismissFront(); ++count) {
+  for (int count = 0; count < kMostDialogs && Running() && TheDevice().DialogBoxes().DismissFront();
+       ++count) {
     Settle();
   }
-}
-
-// Moves the clock from timer to timer, so that each fires at its own time and in order.
-void Player::Wait(int milliseconds) {
-  const std::int64_t end = host_.Now() + milliseconds;
-  Settle();
-  while (Running() && nextTimer_ && *nextTimer_ <= end && host_.Now() < end) {
-    host_.SetNow(std::max(*nextTimer_, host_.Now() + 1));
-    Settle();
-  }
-  host_.SetNow(end);
-  Settle();
-}
-
-std::string Player::OutPath(const std::string& file) const {
-  const std::filesystem::path path = std::filesystem::path(options_.outFolder) / file;
-  std::error_code ignored;  // A folder that cannot be made shows when the file is opened.
-  std::filesystem::create_directories(path.parent_path(), ignored);
-  return path.string();
-}
-
-void Player::Shoot(const std::string& file) {
-  const std::string path = OutPath(file);
-  if (!host_.WritePng(path)) Fail("cannot write " + path);
-}
-
-void Player::BeginTrace(const std::string& file) {
-  const std::string path = OutPath(file);
-  if (!trace_.Open(path)) Fail("cannot write " + path);
 }
 
 }  // namespace

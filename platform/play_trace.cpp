@@ -61,7 +61,7 @@ void JsonTrace::MessageDispatched(WindowHandle window, std::uint32_t message, WP
     const auto& notification = *reinterpret_cast<const BarNotification*>(l);
     event["code"] = notification.code;
     event["id"] = notification.id;
-  } else {
+  } else if (message != WM_CREATE) {
     event["l"] = l;
   }
   WriteLine(file_, event);

@@ -14,8 +14,9 @@ namespace orvane {
 // {"time":0,"event":"bar","call":"add","bar":1,"argument":8820,"value":4}
 // {"time":0,"event":"box","caption":"Orvane","text":"...","icon":"error"}
 //
-// `time` is the host's clock in milliseconds, `name` is left out for a message without a usual one. WM_NOTIFY
-// shows the notification's code and button as "code" and "id", since its l is an address.
+// `time` is the host's clock in milliseconds; `name` is left out for a message without a usual one. Addresses
+// are never shown, so that equal scripts give equal traces: WM_CREATE has no "l", WM_NOTIFY has the
+// notification's "code" and "id" in its place.
 class JsonTrace : public TraceSink {
  public:
   // Starts to write into this file, from its beginning, in place of the one before. False when it cannot be

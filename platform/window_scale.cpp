@@ -27,19 +27,11 @@ double RememberedScale(double remembered, Size desktop) {
   return std::min(remembered, LargestWithin(desktop.width, desktop.height));
 }
 
-double ScaleForWindow(Size window) {
-  double scale = LargestWithin(window.width, window.height);
-  // The quotient may be rounded up by a last bit, and the frame by a whole pixel with it.
-  while (scale > kLeastScale && (FrameSize(scale).width > std::max(window.width, kScreenSize.width) ||
-                                 FrameSize(scale).height > std::max(window.height, kScreenSize.height))) {
-    scale = std::nextafter(scale, 0.0);
-  }
-  return scale;
-}
+double ScaleForWindow(Size window) { return LargestWithin(window.width, window.height); }
 
 Size FrameSize(double scale) {
-  return {static_cast<int>(std::ceil(kScreenSize.width * scale)),
-          static_cast<int>(std::ceil(kScreenSize.height * scale))};
+  return {static_cast<int>(std::floor(kScreenSize.width * scale + 0.5)),
+          static_cast<int>(std::floor(kScreenSize.height * scale + 0.5))};
 }
 
 double SteppedScale(double scale, int step, double standard) {
