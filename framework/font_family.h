@@ -9,9 +9,6 @@
 
 namespace orvane {
 
-// The text whose height is a variant's line height; 17 characters.
-inline constexpr TextView kMeasuredSample = u"FoNT SIze WwlLIqQ";
-
 struct FontVariant {
   int points = 0;
   int weight = 400;  // 400 normal, 700 bold
@@ -40,9 +37,6 @@ struct FontFamily {
   // How far below the top of the line box the top of text in this style stands.
   int TopInLine(const TextStyle& style) const;
 };
-
-// Width and height that one plain run takes in a font.
-inline Size MeasureExtent(const Font& font, TextView text) { return {font.TextWidth(text), font.Height()}; }
 
 // (bold × 2 + italic) × 3 + position.
 constexpr std::size_t VariantIndex(const TextStyle& style) {
