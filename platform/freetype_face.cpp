@@ -10,9 +10,6 @@
 namespace orvane {
 namespace {
 
-// Glyphs are forgotten and drawn anew beyond this; the program's screens need some tens of kilobytes.
-constexpr std::size_t kMostStoredBytes = 2u << 20;
-
 // Light hinting snaps heights and baselines to the pixels and leaves shapes and widths as designed: crisp at
 // 1×, faithful at 2× and 3×.
 constexpr FT_Int32 kLoadFlags = FT_LOAD_TARGET_LIGHT | FT_LOAD_NO_BITMAP;
@@ -115,6 +112,7 @@ FreetypeFace::StoredGlyph FreetypeFace::Render(std::uint32_t glyph, int emSize, 
   return stored;
 }
 
+// Beyond its limit everything is forgotten and drawn anew; the program's screens need some tens of kilobytes.
 void FreetypeFace::LimitMemory() {
   constexpr std::size_t kMostOthers = 20000;
   if (others_.size() > kMostOthers) others_.clear();

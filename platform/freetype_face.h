@@ -53,6 +53,10 @@ class FreetypeFace {
   // The glyph at an em size in 1/64 device pixels.
   GlyphPicture Glyph(std::uint32_t glyph, int emSize);
 
+  // The memory that the kept glyphs' pictures take; never more than kMostStoredBytes and one glyph.
+  static constexpr std::size_t kMostStoredBytes = 2u << 20;
+  std::size_t StoredBytes() const { return storedBytes_; }
+
  private:
   struct FaceCloser {
     void operator()(FT_FaceRec_* face) const;

@@ -180,7 +180,7 @@ TEST_F(CanvasText, LongTextsAreDrawnWhereTheyCanBeSeen) {
   EXPECT_EQ(Picture(*middle), Picture(*expected));
 }
 
-// Thousands of large glyphs pass through the glyph store without staying there.
+// So many large glyphs that the kept ones were forgotten and drawn anew.
 TEST_F(CanvasText, ManyLargeGlyphsLookTheSameAfterwards) {
   const auto before = Picture(*Drawn(u"Hg", Get(13), 2));
   const auto surface = graphics_->CreateSurface({60, 60}, 16, false);
