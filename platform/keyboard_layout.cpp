@@ -43,7 +43,7 @@ constexpr KeyTable MakeKeys() {
   table.Press(2, VK_BACK, 8);
   table.NextRow();
   table.Special(3, KeyAction::kCaps);
-  table.Characters(u"asdfghjkl", u"ASDFGHJKL", u"αβγδλµνπσ");
+  table.Characters(u"asdfghjkl", u"ASDFGHJKL", u"αβγδλμνπσ");
   table.Press(3, VK_RETURN, 13);
   table.NextRow();
   table.Special(4, KeyAction::kShift);
