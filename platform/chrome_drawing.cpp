@@ -27,7 +27,6 @@ Text FitText(TextView text, const Font& font, int width) {
   std::size_t kept = 0;
   int used = 0;
   while (kept < text.size() && used + widths[kept] <= room) used += widths[kept++];
-  if (kept > 0 && kept < text.size() && IsLowSurrogate(text[kept])) --kept;
   return Text(text.substr(0, kept)) + Text(kEllipsis);
 }
 

@@ -11,7 +11,7 @@ namespace orvane::chrome {
 enum class Direction { kUp, kDown, kLeft, kRight };
 
 // The longest beginning of the text that fits the width, with "..." where something had to go; the text
-// itself when it fits. Never parts a surrogate pair.
+// itself when it fits. Never parts a surrogate pair, whose second unit has no width.
 Text FitText(TextView text, const Font& font, int width);
 
 // One line of text in the rectangle, centred vertically by its capitals, cut with an ellipsis where it is

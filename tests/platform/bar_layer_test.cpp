@@ -297,9 +297,10 @@ TEST(MenuBar, InsertingBeyondTheEndAppendsAndDeletingBeyondItDoesNothing) {
 
 TEST(MenuBar, APressEndsWhenItsButtonOrBarGoes) {
   BarBed bed;
+  bed.Bars().Insert(bed.bar, kPushAt + 1, Push(42));
   const Point button = ButtonPoint(bed, kPushAt);
   bed.Get().PenDown(button);
-  bed.Bars().Delete(bed.bar, kPushAt);  // 41 stands there now
+  bed.Bars().Delete(bed.bar, kPushAt);  // 42 stands there now
   bed.Get().PenUp(button);
   bed.Step();
   EXPECT_TRUE(bed.Commands(bed.main).empty());

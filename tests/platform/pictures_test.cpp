@@ -60,6 +60,18 @@ TEST_F(Pictures, AreDrawnAtTheirPlace) {
   }
 }
 
+// Two fifths of the way from the background to the picture; what is transparent stays so.
+TEST_F(Pictures, FaintOnesAreWeakened) {
+  const auto image = graphics_->LoadImage(picture_.Encoded());
+  const auto surface = graphics_->CreateSurface({3, 2}, 1, false);
+  surface->GetCanvas().FillRect({0, 0, 3, 2}, kWhite);
+  surface->GetCanvas().DrawFaintImage(*image, {0, 0}, {0, 0, 3, 2});
+  EXPECT_EQ(surface->DevicePixel(0, 0), 0xFF9999u);  // 255 × 3 / 5 = 153
+  EXPECT_EQ(surface->DevicePixel(1, 0), 0x99FF99u);
+  EXPECT_EQ(surface->DevicePixel(0, 1), 0xFFFFFFu);
+  EXPECT_EQ(surface->DevicePixel(1, 1), 0xFFFFFFu);
+}
+
 TEST_F(Pictures, PartsAreCutFromTheSource) {
   const auto image = graphics_->LoadImage(picture_.Encoded());
   ExpectAtEveryScale({4, 3}, {"....", ".gb.", "..r."}, [&](Canvas& c) {

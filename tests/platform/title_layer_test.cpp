@@ -42,6 +42,9 @@ TEST(TitleArea, ChildrenAndToolsWithoutATitleDoNotCount) {
   bed.MakeTool(u"");
   bed.Step();
   EXPECT_EQ(TitleOf(bed), "Periodic table");
+  bed.Get().DestroyWindow(bed.tool);
+  bed.Step();
+  EXPECT_EQ(TitleOf(bed), "Orvane");
 }
 
 TEST(TitleArea, ALongTitleEndsBeforeTheCloseBox) {
