@@ -19,7 +19,6 @@ inline constexpr Colour kDimText = Rgb(148, 164, 184);
 inline constexpr Colour kCaptionHint = Rgb(178, 210, 244);  // small print on deep blue
 inline constexpr Colour kErrorRed = Rgb(206, 52, 44);
 inline constexpr Colour kAmber = Rgb(245, 181, 46);
-inline constexpr Colour kAmberEdge = Rgb(176, 118, 8);
 
 inline FontSpec TextFont(int pixels, bool bold = false) { return {u"Tahoma", pixels, bold, false, false}; }
 

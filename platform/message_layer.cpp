@@ -1,5 +1,4 @@
 // The message box that is shown now: drawing, pen and keys around the queue.
-#include <optional>
 
 #include "platform/box_queue.h"
 #include "platform/chrome.h"
