@@ -18,43 +18,47 @@ struct Closer {
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
 };
 
-// A Cairo context on the pixels of a buffer, for one shape.
+// How far beyond the clip a shape is still drawn. What Cairo draws near a vertical edge of its own clip
+// differs in shade from what it draws without one; so it draws more than is wanted, and the picture of a
+// shape does not depend on the clip.
+constexpr int kReach = 1024;
+
+// One shape, drawn as coverage and then blended into a buffer.
 class ShapePainter {
  public:
-  ShapePainter(PixelBuffer& target, const Rect& clip, Colour colour)
-      : target_(target),
-        clip_(clip),
-        surface_(cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(target.pixels.data()),
-                                                     CAIRO_FORMAT_RGB24, target.width, target.height,
-                                                     target.width * static_cast<int>(sizeof(std::uint32_t)))),
+  // `area`: the pixels to draw. Rows are as wide as Cairo's, a multiple of four bytes.
+  explicit ShapePainter(const Rect& area)
+      : area_{area.left, area.top, area.left + (area.Width() + 3) / 4 * 4, area.bottom},
+        surface_(cairo_image_surface_create(CAIRO_FORMAT_A8, area_.Width(), area_.Height())),
         cairo_(cairo_create(surface_.get())) {
-    cairo_rectangle(Get(), clip.left, clip.top, clip.Width(), clip.Height());
-    cairo_clip(Get());
-    cairo_set_source_rgb(Get(), colour.red / 255.0, colour.green / 255.0, colour.blue / 255.0);
+    cairo_translate(Get(), -area_.left, -area_.top);
   }
 
   cairo_t* Get() const { return cairo_.get(); }
 
-  // Cairo may write anything into the unused byte of a pixel; here it is always 0, so that pixels compare.
-  void ClearUnusedBytes() {
+  void Blend(PixelBuffer& target, const Rect& clip, Colour colour) {
     cairo_surface_flush(surface_.get());
-    for (int y = clip_.top; y < clip_.bottom; ++y) {
-      std::uint32_t* row = target_.Row(y);
-      for (int x = clip_.left; x < clip_.right; ++x) row[x] &= 0x00FFFFFFu;
-    }
+    const unsigned char* bytes = cairo_image_surface_get_data(surface_.get());
+    if (bytes == nullptr) return;
+    BlendCoverage(target, {bytes, area_.Width(), area_.Height()}, area_.TopLeft(), clip, colour);
   }
 
  private:
-  PixelBuffer& target_;
-  Rect clip_;
+  Rect area_;
   std::unique_ptr<cairo_surface_t, Closer> surface_;
   std::unique_ptr<cairo_t, Closer> cairo_;
 };
 
 double Near(double v) { return std::clamp(v, -kFarthestPixel, kFarthestPixel); }
 
-// The pixels within `margin` of the points, as far as they lie in the clip.
-Rect Touched(std::span<const DevicePoint> points, double margin, const Rect& clip) {
+// What to draw of a shape within these bounds so that it can be seen in the clip; empty when it cannot.
+Rect AreaToDraw(const Rect& bounds, const Rect& clip) {
+  if (Intersect(bounds, clip).Empty()) return {};
+  return Intersect(bounds, {clip.left - kReach, clip.top, clip.right + kReach, clip.bottom});
+}
+
+// The pixels within `margin` of the points.
+Rect Touched(std::span<const DevicePoint> points, double margin) {
   if (points.empty()) return {};
   DevicePoint low = points.front();
   DevicePoint high = low;
@@ -63,9 +67,8 @@ Rect Touched(std::span<const DevicePoint> points, double margin, const Rect& cli
     high = {std::max(high.x, p.x), std::max(high.y, p.y)};
   }
   const auto pixel = [](double v) { return static_cast<int>(std::floor(Near(v))); };
-  return Intersect(
-      {pixel(low.x - margin), pixel(low.y - margin), pixel(high.x + margin) + 1, pixel(high.y + margin) + 1},
-      clip);
+  return {pixel(low.x - margin), pixel(low.y - margin), pixel(high.x + margin) + 1,
+          pixel(high.y + margin) + 1};
 }
 
 // The path of a box whose corners are elliptic, each quarter one Bézier curve.
@@ -130,22 +133,22 @@ void FillRoundBox(PixelBuffer& target, const Rect& clip, const Rect& box, double
     FillPixels(target, area, fill);
     return;
   }
-  ShapePainter painter(target, area, fill);
+  ShapePainter painter(AreaToDraw(box, clip));
   AddRoundBox(painter.Get(), left, top, right, bottom, rx, ry);
   cairo_fill(painter.Get());
-  painter.ClearUnusedBytes();
+  painter.Blend(target, clip, fill);
 }
 
 void StrokePath(PixelBuffer& target, const Rect& clip, std::span<const DevicePoint> points, double width,
                 Colour colour) {
-  const Rect area = Touched(points, width, clip);
+  const Rect area = AreaToDraw(Touched(points, width), clip);
   if (area.Empty() || points.size() < 2) return;
-  ShapePainter painter(target, area, colour);
+  ShapePainter painter(area);
   cairo_set_line_width(painter.Get(), width);
   cairo_set_line_join(painter.Get(), CAIRO_LINE_JOIN_ROUND);
   bool joined = false;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const auto part = NearPart(points[i - 1], points[i], area, 2 * width + 2);
+    const auto part = NearPart(points[i - 1], points[i], area, 2 * width + kReach);
     if (!part) {
       joined = false;
       continue;
@@ -156,18 +159,18 @@ void StrokePath(PixelBuffer& target, const Rect& clip, std::span<const DevicePoi
     joined = part->second.x == points[i].x && part->second.y == points[i].y;
   }
   cairo_stroke(painter.Get());
-  painter.ClearUnusedBytes();
+  painter.Blend(target, clip, colour);
 }
 
 void FillPolygon(PixelBuffer& target, const Rect& clip, std::span<const DevicePoint> points, Colour fill) {
-  const Rect area = Touched(points, 0, clip);
+  const Rect area = AreaToDraw(Touched(points, 0), clip);
   if (area.Empty() || points.size() < 3) return;
-  ShapePainter painter(target, area, fill);
+  ShapePainter painter(area);
   cairo_set_fill_rule(painter.Get(), CAIRO_FILL_RULE_EVEN_ODD);
   for (const DevicePoint& p : points) cairo_line_to(painter.Get(), Near(p.x), Near(p.y));
   cairo_close_path(painter.Get());
   cairo_fill(painter.Get());
-  painter.ClearUnusedBytes();
+  painter.Blend(target, clip, fill);
 }
 
 }  // namespace orvane

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/canvas.h"
+#include "platform/device_pixels.h"
 #include "tests/platform/pixel_picture.h"
 
 namespace orvane {
@@ -273,6 +274,39 @@ TEST(CanvasShapes, AnyCoordinatesAreSafe) {
       c.DrawRun(u"Ab", {a, b}, font, kRed, c.NextTextLine());
       c.PopClip();
       EXPECT_TRUE(c.ClipBounds().Empty() || c.ClipBounds().GetSize() == (Size{8, 8}));
+    }
+  }
+}
+
+// Painting a part anew must give the pixels that painting the whole gave.
+TEST(CanvasShapes, TheClipDoesNotChangeThePixelsInsideIt) {
+  const auto graphics = MakeGraphics("");
+  const Point path[] = {{3, 2}, {17, 9}, {1, 13}, {19, 18}};
+  const auto draw = [&](const Rect& clip, double scale) {
+    auto surface = graphics->CreateSurface({20, 20}, scale, false);
+    Canvas& c = surface->GetCanvas();
+    c.PushClip(clip);
+    c.Polygon(path, kBlue);
+    c.Ellipse({2, 3, 18, 16}, kRed, kGreen);
+    c.RoundRect({5, 6, 15, 19}, {6, 6}, kWhite, kRed);
+    c.Polyline(path, kWhite, 2);
+    return surface;
+  };
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const auto whole = draw({0, 0, 20, 20}, scale);
+    for (int edge = 1; edge < 20; ++edge) {
+      for (const Rect& clip : {Rect{edge, 0, 20, 20}, Rect{0, edge, 20, 20}, Rect{0, 0, edge, 20},
+                               Rect{0, 0, 20, edge}, Rect{edge / 2, 3, edge, 15}}) {
+        const auto part = draw(clip, scale);
+        int different = 0;
+        for (int y = RoundHalfUp(clip.top * scale); y < RoundHalfUp(clip.bottom * scale); ++y) {
+          for (int x = RoundHalfUp(clip.left * scale); x < RoundHalfUp(clip.right * scale); ++x) {
+            if (part->DevicePixel(x, y) != whole->DevicePixel(x, y)) ++different;
+          }
+        }
+        EXPECT_EQ(different, 0) << scale << ": " << clip.left << "," << clip.top << "," << clip.right << ","
+                                << clip.bottom;
+      }
     }
   }
 }
