@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace orvane {
 
@@ -21,13 +22,14 @@ int AcceleratedStep(int raw, int content, int client) {
 }
 
 int Scrolled(int scroll, int delta, int content, int usable, int margin) {
-  const int limit = content - usable + margin;
+  const long long limit = static_cast<long long>(content) - usable + margin;
+  long long moved = scroll;
   if (scroll <= limit) {
-    scroll = static_cast<int>(std::min<long long>(static_cast<long long>(scroll) + delta, limit));
+    moved = std::min(moved + delta, limit);
   } else if (delta < 0) {
-    scroll = static_cast<int>(std::max<long long>(static_cast<long long>(scroll) + delta, 0));
+    moved += delta;
   }
-  return std::max(scroll, 0);
+  return static_cast<int>(std::clamp<long long>(moved, 0, std::numeric_limits<int>::max()));
 }
 
 }  // namespace

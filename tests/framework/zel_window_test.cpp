@@ -1,92 +1,14 @@
 #include "framework/zel_window.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <optional>
-
-#include "framework/zel_tool_window.h"
-#include "tests/framework/test_shell.h"
+#include "tests/framework/window_test_bed.h"
 
 namespace orvane {
 namespace {
 
 using testing::Dispatched;
-using testing::TestShell;
-using testing::TestShellOptions;
-
-// One message as the object saw it, with the state at that moment.
-struct Seen {
-  std::uint32_t message = 0;
-  bool visible = false;
-  bool focused = false;
-  bool onTop = false;  // of the tool stack
-};
-
-class Probe : public ZelWindow {
- public:
-  using ZelWindow::ZelWindow;
-
-  Result OnMessage(std::uint32_t message, WParam w, LParam l) override {
-    const Device& device = GetShell().GetDevice();
-    seen.push_back({message, IsVisible(), device.Focus() == Handle(), GetShell().Tools().Top() == this});
-    if (message == WM_CREATE) {
-      bound = device.UserData(Handle()) == this;
-      record = *reinterpret_cast<const CreationRecord*>(l);
-    }
-    if (hook) hook(message);
-    return ZelWindow::OnMessage(message, w, l);
-  }
-  std::string ClassName() const override { return "wnd_probe"; }
-
-  // The messages among these, in order.
-  std::vector<std::uint32_t> Order(const std::vector<std::uint32_t>& wanted) const {
-    std::vector<std::uint32_t> order;
-    for (const Seen& one : seen) {
-      if (std::find(wanted.begin(), wanted.end(), one.message) != wanted.end()) order.push_back(one.message);
-    }
-    return order;
-  }
-  const Seen& First(std::uint32_t message) const {
-    static const Seen nothing;
-    const auto at =
-        std::find_if(seen.begin(), seen.end(), [message](const Seen& one) { return one.message == message; });
-    EXPECT_NE(at, seen.end()) << std::hex << message;
-    return at == seen.end() ? nothing : *at;
-  }
-  bool Saw(std::uint32_t message) const {
-    return std::any_of(seen.begin(), seen.end(),
-                       [message](const Seen& one) { return one.message == message; });
-  }
-
-  std::vector<Seen> seen;
-  bool bound = false;
-  std::optional<CreationRecord> record;
-  std::function<void(std::uint32_t)> hook;
-};
-
-using Tools = std::vector<ZelWindow*>;
-
-class ZelWindowTest : public ::testing::Test {
- protected:
-  std::unique_ptr<Probe> MakeTool() {
-    auto tool = MakeWindow<Probe>(shell_, shell_.MainWindow(), true);
-    tool->SetStyle(0, 0);
-    tool->Move(0, 0, 240, 268);
-    tool->seen.clear();
-    return tool;
-  }
-  std::unique_ptr<Probe> MakeChild(const ZelWindow& parent) {
-    auto child = MakeWindow<Probe>(shell_, parent.Handle(), false);
-    child->Move(0, 0, 100, 100);
-    child->seen.clear();
-    return child;
-  }
-  const Tools& Stack() { return shell_.Tools().Tools(); }
-  Device& GetDevice() { return shell_.GetDevice(); }
-
-  TestShell shell_;
-};
+using testing::Probe;
+using testing::Tools;
+using testing::ZelWindowTest;
 
 // --- Making.
 
@@ -490,84 +412,6 @@ TEST_F(ZelWindowTest, RedrawPaintsAtOnceAndInvalidateWaits) {
   tool->Invalidate();
   shell_.Settle();
   EXPECT_EQ(tool->Order({WM_PAINT}).size(), 2u);
-}
-
-// --- Tool windows.
-
-class PaintedTool : public ZelToolWindow {
- public:
-  using ZelToolWindow::ZelToolWindow;
-
-  Result OnMessage(std::uint32_t message, WParam w, LParam l) override {
-    seen.push_back({Handle(), message, w, l});
-    focusedThen = GetShell().GetDevice().Focus() == Handle();
-    return message == WM_LBUTTONDOWN ? 77 : ZelToolWindow::OnMessage(message, w, l);
-  }
-
-  std::vector<Dispatched> seen;
-  std::vector<Size> painted;
-  const Canvas* paintedOn = nullptr;
-  bool focusedThen = false;
-
- protected:
-  void Paint(Canvas& canvas, int width, int height) override {
-    painted.push_back({width, height});
-    paintedOn = &canvas;
-    canvas.FillRect({0, 0, width, height}, Rgb(0, 121, 255));
-    canvas.FillRect({width - 1, height - 1, width, height}, Rgb(255, 0, 0));
-  }
-};
-
-class ZelToolWindowTest : public ZelWindowTest {
- protected:
-  ZelToolWindowTest() : tool_(MakeWindow<PaintedTool>(shell_, shell_.MainWindow(), true)) {
-    tool_->SetStyle(0, 0);
-    tool_->Move(0, 0, 240, 268);
-    tool_->Show();
-    shell_.Settle();
-    tool_->seen.clear();
-  }
-
-  std::unique_ptr<PaintedTool> tool_;
-};
-
-TEST_F(ZelToolWindowTest, PaintsItsWholeClientAreaThroughTheSharedBuffer) {
-  tool_->painted.clear();
-  tool_->Redraw();
-  EXPECT_EQ(tool_->painted, (std::vector<Size>{{240, 268}}));
-  EXPECT_EQ(tool_->paintedOn, &shell_.BackBuffer().GetCanvas());
-  EXPECT_TRUE(tool_->seen.empty());  // WM_PAINT is not passed on
-  shell_.Settle();
-  EXPECT_EQ(shell_.Pixel({0, 26}), 0x0079FFu);
-  EXPECT_EQ(shell_.Pixel({239, 293}), 0xFF0000u);
-  EXPECT_EQ(shell_.Pixel({238, 293}), 0x0079FFu);
-  EXPECT_TRUE(GetDevice().InvalidRect(tool_->Handle()).Empty());
-}
-
-TEST_F(ZelToolWindowTest, ASmallerWindowCopiesItsClientAreaOnly) {
-  tool_->Move(10, 20, 50, 30);
-  shell_.Settle();
-  EXPECT_EQ(tool_->painted.back(), (Size{50, 30}));
-  EXPECT_EQ(shell_.Pixel({10, 46}), 0x0079FFu);
-  EXPECT_EQ(shell_.Pixel({59, 75}), 0xFF0000u);
-  EXPECT_EQ(shell_.Pixel({60, 75}), 0xFFFFFFu);
-}
-
-TEST_F(ZelToolWindowTest, APenThatGoesDownGivesTheFocusAndIsPassedOn) {
-  GetDevice().SetFocus(shell_.MainWindow());
-  const Result result = GetDevice().Send(tool_->Handle(), WM_LBUTTONDOWN, 0, PackPoint({5, 6}));
-  EXPECT_EQ(result, 77);
-  EXPECT_EQ(GetDevice().Focus(), tool_->Handle());
-  ASSERT_FALSE(tool_->seen.empty());
-  EXPECT_EQ(tool_->seen.back(), (Dispatched{tool_->Handle(), WM_LBUTTONDOWN, 0, PackPoint({5, 6})}));
-  EXPECT_TRUE(tool_->focusedThen);
-}
-
-TEST_F(ZelToolWindowTest, EveryOtherMessageIsPassedOn) {
-  GetDevice().Send(tool_->Handle(), WM_KEYDOWN, VK_LEFT, 3);
-  GetDevice().Send(tool_->Handle(), WM_COMMAND, 40017, 0);
-  EXPECT_EQ(tool_->seen, (std::vector<Dispatched>{{tool_->Handle(), WM_KEYDOWN, VK_LEFT, 3},
-                                                  {tool_->Handle(), WM_COMMAND, 40017, 0}}));
 }
 
 }  // namespace
