@@ -3,6 +3,8 @@
 // the test wants.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <map>
 #include <memory>
@@ -226,5 +228,25 @@ class TestBed {
 };
 
 std::uint32_t PixelOf(Colour colour);
+
+// A main window, a tool that fills it and a panel in the tool, at screen (10, 46) to (110, 146).
+struct ThreeWindows : testing::Test {
+  TestBed bed;
+  Device& device = *bed.device;
+  WindowHandle main = bed.Make("main", Rect::At(0, 26, 240, 268));
+  WindowHandle tool = bed.Make("tool", Rect::At(0, 0, 240, 268), main);
+  WindowHandle panel = bed.MakeChild("panel", Rect::At(10, 20, 100, 100), tool);
+
+  void SetUp() override {
+    bed.Settle();
+    bed.ForgetMessages();
+  }
+  LayerScript& ShowLayer(LayerScript& layer, const Rect& bounds, bool modal = false) {
+    layer.visible = true;
+    layer.modal = modal;
+    layer.bounds = bounds;
+    return layer;
+  }
+};
 
 }  // namespace orvane::device_test
