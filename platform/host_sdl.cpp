@@ -8,7 +8,8 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <vector>
+#include <string_view>
+#include <utility>
 
 #include "platform/device.h"
 #include "platform/host_sdl_input.h"
@@ -46,6 +47,14 @@ Size DesktopSize() {
 bool IsFrameFormat(const SDL_PixelFormat& format) {
   return format.BytesPerPixel == 4 && format.Rmask == 0xFF0000u && format.Gmask == 0xFF00u &&
          format.Bmask == 0xFFu;
+}
+
+// Where nothing can be shown the library falls back on drivers without a screen. Only who asks for one of
+// them by name wants it.
+bool HasScreen() {
+  if (SDL_getenv("SDL_VIDEODRIVER") != nullptr) return true;
+  const std::string_view driver = SDL_GetCurrentVideoDriver();
+  return driver != "offscreen" && driver != "dummy" && driver != "evdev";
 }
 
 struct SurfaceCloser {
@@ -152,6 +161,10 @@ struct SdlHost::Window {
 };
 
 bool SdlHost::Window::Open(std::string& error) {
+  if (video.open && !HasScreen()) {
+    error = "no window system was found";
+    return false;
+  }
   if (video.open) {
     scale = RememberedScale(options.scale, DesktopSize());
     const Size size = FrameSize(scale);
