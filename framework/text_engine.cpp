@@ -139,7 +139,7 @@ std::vector<int> TextEngine::GetCharWidths(TextView text) const {
 }
 
 void TextEngine::DrawTextEllipsis(Canvas& canvas, TextView text, int x, int y, const Rect& clip) const {
-  if (!family_ || !family_->Created() || clip.bottom < 0) return;
+  if (!family_ || !family_->Created() || clip.bottom < 0 || clip.Width() <= 0) return;
   const SideClip sides(canvas, &clip);
   if (MeasureText(text).width <= clip.Width()) {
     DrawText(canvas, text, x, y);

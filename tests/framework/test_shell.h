@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -55,6 +56,7 @@ class RecordingTrace : public TraceSink {
  public:
   void MessageDispatched(WindowHandle window, std::uint32_t message, WParam w, LParam l) override {
     messages.push_back({window, message, w, l});
+    if (watch) watch(messages.back());
   }
   void CursorChanged(bool) override {}
   void BarCall(std::string_view call, int bar, int commandOrIndex, int value) override {
@@ -66,7 +68,8 @@ class RecordingTrace : public TraceSink {
   }
 
   std::vector<Dispatched> messages;
-  std::vector<std::string> barCalls;  // "create 1 2 6"
+  std::function<void(const Dispatched&)> watch;  // called before the window gets the message
+  std::vector<std::string> barCalls;             // "create 1 2 6"
   std::vector<MessageBoxText> boxes;
 };
 

@@ -225,6 +225,11 @@ TEST_F(TextEngineTest, AWideWordIsNotBrokenInsideASurrogatePair) {
   ASSERT_EQ(canvas_.runs.size(), 2u);
   EXPECT_EQ(canvas_.runs[0].text, u"a\U0001D400");
   EXPECT_EQ(canvas_.runs[1].text, u"\U0001D401");
+  canvas_.runs.clear();
+  const Rect narrow{0, 0, 2, 500};  // not even one fits
+  engine_.DrawText(canvas_, u"\U0001D400\U0001D401", 0, 0, &narrow);
+  ASSERT_EQ(canvas_.runs.size(), 2u);
+  EXPECT_EQ(canvas_.runs[0].text, u"\U0001D400");
 }
 
 // The space that ends a line may stand behind the right edge; the word before it fits.
@@ -382,6 +387,12 @@ TEST_F(TextEngineTest, DotsThatDoNotFitAreDrawnAndCut) {
   engine_.DrawTextEllipsis(canvas_, u"abcdef", 5, 0, {5, 0, 5 + 17, 20});
   EXPECT_EQ(Runs(), List{"...@5,2"});
   EXPECT_EQ(canvas_.runs[0].clip, (Rect{5, 0, 22, 1000}));
+}
+
+TEST_F(TextEngineTest, ARectangleWithoutWidthHasNoDots) {
+  engine_.DrawTextEllipsis(canvas_, u"abc", 5, 0, {5, 0, 5, 20});
+  engine_.DrawTextEllipsis(canvas_, u"", 5, 0, {5, 0, 0, 20});
+  EXPECT_TRUE(canvas_.runs.empty());
 }
 
 TEST_F(TextEngineTest, AnEllipsisNeverPartsASurrogatePair) {

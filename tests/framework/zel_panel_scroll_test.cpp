@@ -94,7 +94,8 @@ INSTANTIATE_TEST_SUITE_P(Steps, AccelerationTest,
                                            Acceleration{-5, 100, 240, 500, 495},   // -3.75
                                            Acceleration{8, 1000, 240, 0, 60},      // just 60
                                            Acceleration{6, 0, 240, 10, 16},        // no content: the raw step
-                                           Acceleration{10, 133, 240, 0, 10}));    // 9.975
+                                           Acceleration{100, 1000, 240, 0, 750},
+                                           Acceleration{10, 133, 240, 0, 10}));  // 9.975
 
 TEST_F(ZelPanelTest, TheBorderDoesNotCountForTheAcceleration) {
   panel_->bordered = true;
