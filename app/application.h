@@ -105,7 +105,6 @@ class Application : public Shell, public Navigator {
 
   // The end
   void CleanUp();
-  void HideAll();
   void DestroyTools();
 
   MadeTool& Made(ToolSlot slot) { return tools_[static_cast<std::size_t>(slot)]; }

@@ -1,4 +1,6 @@
 // The main window: its messages, its commands, and the switching between tools.
+#include <vector>
+
 #include "app/application.h"
 #include "app/commands.h"
 #include "framework/resource_loader.h"
@@ -115,9 +117,11 @@ void Application::SwitchTo(ToolSlot slot) {
   HideAllBut(tool);
 }
 
+// Of all open tools, those included that other tools have made. None of them brings another one forward.
 void Application::HideAllBut(const ZelWindow* kept) {
-  for (const MadeTool& tool : tools_) {
-    if (tool.window && tool.window.get() != kept) tool.window->Hide();
+  const std::vector<ZelWindow*> open = stack_.Tools();
+  for (ZelWindow* tool : open) {
+    if (tool != kept) tool->HideOnly();
   }
 }
 

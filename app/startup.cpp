@@ -1,6 +1,8 @@
 // From the first check to the periodic table on the screen, and from the quit message to the exit code.
 #include <array>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "app/application.h"
 #include "app/commands.h"
@@ -15,6 +17,12 @@ namespace {
 
 constexpr Rect kMainWindowRect = Rect::At(0, 26, 240, 268);
 constexpr Colour kMainBackground = Rgb(64, 64, 64);  // the stock dark grey
+
+// The system would open a folder of that name too.
+bool CanRead(const std::string& path) {
+  std::error_code error;
+  return !std::filesystem::is_directory(path, error) && std::ifstream(path, std::ios::binary).is_open();
+}
 
 // Passes a data file's messages on to message boxes of the main window.
 class BoxReporter : public MessageReporter {
@@ -42,7 +50,7 @@ void Application::Start() {
 
 bool Application::FindElementsFile() {
   const std::string path = options_.dataFolder + kElementsFile;
-  if (std::ifstream(path, std::ios::binary).is_open()) return true;
+  if (CanRead(path)) return true;
   const TextView text = u"Elements data file cannot be found. Try to reinstall the application.\n\nFile: %s";
   device_.Boxes().Show(mainWindow_, WithText(text, FromUtf8(path)), kProgramName, MessageIcon::kError);
   return false;
@@ -161,7 +169,7 @@ void Application::AfterStep() {
 
 void Application::CleanUp() {
   if (loadingBox_ != kNoDialog) HideLoadingBox();
-  HideAll();
+  HideAllBut(nullptr);
   DestroyTools();
   backBuffer_.Destroy();
   for (Bitmap& icon : icons_) icon.Destroy();
@@ -171,8 +179,6 @@ void Application::CleanUp() {
   device_.DestroyWindow(mainWindow_);
   elements_.Free();
 }
-
-void Application::HideAll() { HideAllBut(nullptr); }
 
 void Application::DestroyTools() {
   constexpr std::array kOrder{
