@@ -6,9 +6,9 @@ namespace orvane {
 
 namespace {
 
-constexpr int kColumns = 32;  // of the long form; the short form has 17
-constexpr int kSymbolPadding = 4;
-constexpr int kTextPadding = 2;
+constexpr int kColumns = 32;     // of the long form; the short form has 17
+constexpr int kTextPadding = 2;  // left and right of the texts
+constexpr int kBothPaddings = 2 * kTextPadding;
 constexpr int kBetweenTexts = 10;
 constexpr int kHelium = 1;
 constexpr int kHeliumShortFormWidth = 25;
@@ -100,12 +100,12 @@ int CellWidth(const CellTexts& t, const PeriodicView& view) {
   if (view.number && view.name && view.mass) {
     return std::max(symbol + mass + kBetweenTexts, name + number + kBetweenTexts);
   }
-  if (view.number && view.name) return std::max(symbol + number + kBetweenTexts, name + kSymbolPadding);
-  if (view.number && view.mass) return std::max(symbol + number + kBetweenTexts, mass + kSymbolPadding);
-  if (view.name && view.mass) return std::max(symbol + mass + kBetweenTexts, name + kSymbolPadding);
-  if (view.name) return name + kSymbolPadding;
-  if (view.mass) return mass + kSymbolPadding;
-  return symbol + kSymbolPadding;
+  if (view.number && view.name) return std::max(symbol + number + kBetweenTexts, name + kBothPaddings);
+  if (view.number && view.mass) return std::max(symbol + number + kBetweenTexts, mass + kBothPaddings);
+  if (view.name && view.mass) return std::max(symbol + mass + kBetweenTexts, name + kBothPaddings);
+  if (view.name) return name + kBothPaddings;
+  if (view.mass) return mass + kBothPaddings;
+  return symbol + kBothPaddings;
 }
 
 int CellHeight(const CellTexts& t, const PeriodicView& view) {

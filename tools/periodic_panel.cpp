@@ -56,10 +56,8 @@ TextView ValueOf(const ElementProperty* property, int element) {
   return property ? property->Value(element) : TextView();
 }
 
-// Meets also what reaches one pixel beyond the cell: its border is shared with its neighbours.
-bool Meets(const Rect& rect, const Rect& part) {
-  return !Intersect({rect.left, rect.top, rect.right + 1, rect.bottom + 1}, part).Empty();
-}
+// One pixel larger than the cell, so that neighbours share their border lines.
+constexpr Rect Outlined(const Rect& cell) { return {cell.left, cell.top, cell.right + 1, cell.bottom + 1}; }
 
 }  // namespace
 
@@ -170,10 +168,9 @@ void PeriodicPanel::DrawCells(Canvas& canvas, const Rect& part) const {
   Colour fill = kBandFill;
   for (int i = 0; i < kPeriodicCells; ++i) {
     fill = FillOf(i, fill);
-    const Rect& rect = Cell(i).rect;
-    if (!Meets(rect, part)) continue;
-    // One pixel larger, so that neighbours share their border lines.
-    canvas.Rectangle({rect.left, rect.top, rect.right + 1, rect.bottom + 1}, kBlack, fill);
+    const Rect box = Outlined(Cell(i).rect);
+    if (!Intersect(box, part).Empty()) canvas.Rectangle(box, kBlack, fill);
+    // A text that does not count for the cell's width may reach into the part from outside.
     DrawCellTexts(canvas, i);
   }
 }

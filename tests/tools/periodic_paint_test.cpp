@@ -97,6 +97,22 @@ class PeriodicPaintTest : public ::testing::Test {
     }
   }
 
+  // Each part painted alone has the pixels that the whole has there.
+  void ExpectPartsAsInTheWhole(const std::vector<Rect>& parts) {
+    for (const Rect& part : parts) {
+      const auto alone = shell_.GetDevice().CreateSurface(panel_->Layout().content);
+      Canvas& canvas = alone->GetCanvas();
+      canvas.PushClip(part);
+      panel_->Paint(canvas, part.left, part.top, part.right, part.bottom);
+      canvas.PopClip();
+      for (int y = part.top; y < part.bottom; ++y) {
+        for (int x = part.left; x < part.right; ++x) {
+          ASSERT_EQ(alone->DevicePixel(x, y), Pixel(x, y)) << x << ", " << y;
+        }
+      }
+    }
+  }
+
   bool HasRun(TextView text, Point at, int pixels) const {
     for (const TextRun& run : surface_->Runs()) {
       if (run.text == text && run.rect.TopLeft() == at && run.font == FontSpec{u"Tahoma", pixels} &&
@@ -195,17 +211,24 @@ TEST_F(PeriodicPaintTest, APartLooksAsInTheWhole) {
     return f;
   });
   Draw({.wide = false, .number = true, .name = true, .mass = true}, false);
-  const Rect part{130, 100, 301, 220};
-  const auto alone = shell_.GetDevice().CreateSurface(panel_->Layout().content);
-  Canvas& canvas = alone->GetCanvas();
-  canvas.PushClip(part);
-  panel_->Paint(canvas, part.left, part.top, part.right, part.bottom);
-  canvas.PopClip();
-  for (int y = part.top; y < part.bottom; ++y) {
-    for (int x = part.left; x < part.right; ++x) {
-      ASSERT_EQ(alone->DevicePixel(x, y), Pixel(x, y)) << x << ", " << y;
-    }
-  }
+  const Rect nickel = CellRect(27);  // only its own outline lies right of it
+  ExpectPartsAsInTheWhole({{130, 100, 301, 220}, {nickel.right, 0, nickel.right + 3, 200}, {0, 0, 1, 400}});
+}
+
+// Some texts do not count for a cell's width and so reach out of it, to the right or to the left.
+TEST_F(PeriodicPaintTest, ATextThatReachesOutOfItsCellIsInAPartBesideIt) {
+  testing::LoadMadeUp(elements_, [](int element) {
+    return testing::ElementFacts{element == 1 ? u"WWWWWWWWWW" : u"i", u"i", u"", u"A", u"S"};
+  });
+  Draw({.wide = true, .number = false, .name = true, .mass = false}, false);
+  const Rect helium = CellRect(1);
+  ExpectPartsAsInTheWhole({{helium.right + 4, 0, helium.right + 15, 60}});
+  Draw({.wide = false, .number = true, .name = false, .mass = false}, false);
+  const Rect copernicium = CellRect(111);
+  ASSERT_LT(Cell(96).number.x, 0);
+  const Rect berkelium = CellRect(96);
+  ExpectPartsAsInTheWhole({{berkelium.left - 4, berkelium.top, berkelium.left, berkelium.bottom},
+                           {copernicium.right + 1, 0, copernicium.right + 20, 200}});
 }
 
 // --- Texts

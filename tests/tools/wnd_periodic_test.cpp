@@ -84,6 +84,9 @@ TEST_F(WndPeriodicTest, APenThatGoesDownOnTheToolTakesTheFocus) {
   GetDevice().SetFocus(shell_.MainWindow());
   GetDevice().Send(tool_->Handle(), WM_LBUTTONDOWN, 0, PackPoint({5, 5}));
   EXPECT_EQ(GetDevice().Focus(), Panel().Handle());
+  GetDevice().SetFocus(shell_.MainWindow());
+  tool_->OnMessage(WM_LBUTTONDOWN, 0, PackPoint({5, 5}));
+  EXPECT_EQ(GetDevice().Focus(), Panel().Handle());
 }
 
 // --- Menus
