@@ -130,6 +130,7 @@ class Application : public Shell, public Navigator {
   int addedButtons_ = 0;
   int selectedElement_ = -1;
   std::array<MadeTool, kToolSlots> tools_;
+  bool withoutData_ = false;  // periodic.dat was not found at the start
   std::optional<int> ended_;
 };
 

@@ -1,8 +1,9 @@
 #include "app/options.h"
 
 #include <CLI/CLI.hpp>
+#include <cmath>
 #include <iostream>
-#include <map>
+#include <string>
 
 namespace orvane {
 
@@ -12,16 +13,19 @@ constexpr int kWrongUsage = 2;
 constexpr double kSmallestScale = 1.0;
 constexpr double kLargestScale = 16.0;
 
+PanelMode PanelModeNamed(const std::string& name) {
+  if (name == "always") return PanelMode::kAlways;
+  return name == "never" ? PanelMode::kNever : PanelMode::kAuto;
+}
+
 }  // namespace
 
 std::variant<Options, int> ParseOptions(int argc, const char* const* argv) {
   Options options;
   double scale = 0;
-  PanelMode panel = PanelMode::kAuto;
+  std::string panel;
   std::string settings;
   std::string script;
-  const std::map<std::string, PanelMode> panelModes{
-      {"auto", PanelMode::kAuto}, {"always", PanelMode::kAlways}, {"never", PanelMode::kNever}};
 
   CLI::App app("Orvane: a chemistry reference and calculator for the hand-held.", "orvane");
   app.set_version_flag("--version", std::string("orvane ") + ORVANE_VERSION);
@@ -32,7 +36,7 @@ std::variant<Options, int> ParseOptions(int argc, const char* const* argv) {
                           ->check(CLI::Range(kSmallestScale, kLargestScale));
   auto* panelOption = app.add_option("--input-panel", panel, "When the on-screen keyboard is raised")
                           ->type_name("auto|always|never")
-                          ->transform(CLI::CheckedTransformer(panelModes));
+                          ->check(CLI::IsMember({"auto", "always", "never"}));
   app.add_option("--instance", options.instance, "Name under which a running instance is found")
       ->type_name("NAME");
   auto* playOption =
@@ -43,12 +47,14 @@ std::variant<Options, int> ParseOptions(int argc, const char* const* argv) {
                "Ends once the first frame is painted, for measuring");
   try {
     app.parse(argc, argv);
+    // The range lets it pass: it is neither below nor above.
+    if (std::isnan(scale)) throw CLI::ValidationError("--scale", "not a number");
   } catch (const CLI::ParseError& error) {
     return app.exit(error, std::cout, std::cerr) == 0 ? 0 : kWrongUsage;
   }
   if (settingsOption->count() > 0) options.settings = settings;
   if (scaleOption->count() > 0) options.scale = scale;
-  if (panelOption->count() > 0) options.inputPanel = panel;
+  if (panelOption->count() > 0) options.inputPanel = PanelModeNamed(panel);
   if (playOption->count() > 0) options.script = script;
   return options;
 }

@@ -41,6 +41,7 @@ class BoxReporter : public MessageReporter {
 
 void Application::Start() {
   if (!FindElementsFile()) {
+    withoutData_ = true;
     device_.Boxes().WhenAllDismissed([this] { device_.PostQuit(kExitNoData); });
     return;
   }
@@ -164,7 +165,8 @@ void Application::SetShortcuts() {
 void Application::AfterStep() {
   if (ended_ || !device_.QuitCode()) return;
   CleanUp();
-  ended_ = device_.QuitCode();
+  // Without its data the start has failed, even when the end comes before the box is dismissed.
+  ended_ = withoutData_ ? kExitNoData : *device_.QuitCode();
 }
 
 void Application::CleanUp() {

@@ -17,7 +17,7 @@ void MarkRange(std::vector<MenuItem>& items, int first, int last, int chosen) {
   for (MenuItem& item : items) {
     if (!item.separator && item.submenu.empty() && item.id >= first && item.id <= last) {
       item.checked = item.id == chosen;
-      item.radio = item.checked;
+      item.radio = true;
     }
     MarkRange(item.submenu, first, last, chosen);
   }

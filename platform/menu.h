@@ -13,7 +13,7 @@ struct MenuItem {
   bool separator = false;
   bool enabled = true;
   bool checked = false;
-  bool radio = false;  // a checked entry is marked with a dot, not with a tick
+  bool radio = false;  // one of a group: a dot marks it, not a tick, when it is checked
   std::vector<MenuItem> submenu;
 };
 
@@ -32,8 +32,8 @@ class Menu {
   void Check(int id, bool checked);
   void CheckAt(int position, bool checked);
   void Enable(int id, bool enabled);
-  // Clears the marks of the entries first..last (ids) and marks `chosen` with a dot; a `chosen` outside the
-  // range marks nothing.
+  // Makes the entries first..last (ids) a radio group, clears their marks and marks `chosen`; a `chosen`
+  // outside the range marks nothing.
   void CheckRadio(int first, int last, int chosen);
 
  private:

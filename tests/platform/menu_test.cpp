@@ -63,6 +63,17 @@ TEST(MenuMarks, CheckRadioMarksOneOfTheRangeWithADot) {
   EXPECT_FALSE(menu.Items()[4].radio);
 }
 
+TEST(MenuMarks, TheUncheckedEntriesOfARadioGroupAreRadioEntriesToo) {
+  Menu menu({Entry(10), Entry(11), Separator(11), Entry(20)});
+  menu.CheckRadio(10, 11, 11);
+  EXPECT_TRUE(menu.Items()[0].radio);
+  EXPECT_FALSE(menu.Items()[2].radio);
+  menu.CheckRadio(10, 11, 0);
+  EXPECT_TRUE(menu.Items()[0].radio);
+  EXPECT_TRUE(menu.Items()[1].radio);
+  EXPECT_FALSE(menu.Items()[3].radio);
+}
+
 TEST(MenuMarks, CheckRadioOutsideTheRangeMarksNothing) {
   Menu menu({Entry(10), Entry(11), Entry(30)});
   menu.CheckRadio(10, 11, 10);
