@@ -1,8 +1,8 @@
 // The program: in a window, or under a script without one. Each way returns the process's exit status.
+#include <array>
 #include <cmath>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "app/options.h"
 #include "app/played_application.h"
@@ -84,11 +84,21 @@ int RunOn(SdlHost& host, SettingsStore& store, const Options& options) {
   return application.Ended().value_or(kExitNormal);
 }
 
+std::optional<std::string> ReadAll(std::istream& in) {
+  std::string text;
+  for (std::array<char, 4096> part{}; in;) {
+    in.read(part.data(), part.size());
+    text.append(part.data(), static_cast<std::size_t>(in.gcount()));
+  }
+  if (in.bad()) return std::nullopt;  // a folder, say: it opens, but cannot be read
+  return text;
+}
+
 std::optional<std::string> ReadScript(const std::string& path) {
-  if (path == "-") return std::string(std::istreambuf_iterator<char>(std::cin), {});
+  if (path == "-") return ReadAll(std::cin);
   std::ifstream file(path, std::ios::binary);
   if (!file.is_open()) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  return ReadAll(file);
 }
 
 int RunInWindow(const Options& options) {

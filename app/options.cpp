@@ -32,10 +32,10 @@ std::variant<Options, int> ParseOptions(int argc, const char* const* argv) {
   app.add_option("--data", options.dataFolder, "Folder of the data files")->type_name("DIR");
   auto* settingsOption = app.add_option("--settings", settings, "Settings file")->type_name("FILE");
   auto* scaleOption = app.add_option("--scale", scale, "Screen pixels a pixel of the hand-held, 1 to 16")
-                          ->type_name("N")
+                          ->option_text("N")
                           ->check(CLI::Range(kSmallestScale, kLargestScale));
   auto* panelOption = app.add_option("--input-panel", panel, "When the on-screen keyboard is raised")
-                          ->type_name("auto|always|never")
+                          ->option_text("auto|always|never")
                           ->check(CLI::IsMember({"auto", "always", "never"}));
   app.add_option("--instance", options.instance, "Name under which a running instance is found")
       ->type_name("NAME");
