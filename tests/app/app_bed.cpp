@@ -132,6 +132,8 @@ Bed::Bed(BedOptions options) {
       return Make(slot, context);
     };
   }
+  constexpr auto kPeriodic = static_cast<std::size_t>(ToolSlot::kPeriodic);
+  if (options.realPeriodic) applicationOptions.tools[kPeriodic] = StandardTools()[kPeriodic];
   application_ = std::make_unique<Application>(*device_, settings, std::move(applicationOptions));
 }
 

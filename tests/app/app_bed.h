@@ -84,6 +84,7 @@ class LoggingHost : public HeadlessHost {
 };
 
 struct BedOptions {
+  bool realPeriodic = false;  // the program's own periodic table in place of its stand-in
   DeviceFactories factories = StandardFactories();
   std::vector<ToolSlot> absent{};     // slots without a tool
   std::optional<std::string> data{};  // the program folder; without it one with the real elements
