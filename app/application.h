@@ -105,6 +105,7 @@ class Application : public Shell, public Navigator {
 
   // The end
   void CleanUp();
+  void CloseWhatIsOpen();
   void DestroyTools();
 
   MadeTool& Made(ToolSlot slot) { return tools_[static_cast<std::size_t>(slot)]; }

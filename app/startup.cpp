@@ -179,7 +179,17 @@ void Application::CleanUp() {
   device_.Bars().Destroy(mainBar_);
   device_.SetMainWindow(kNoWindow);
   device_.DestroyWindow(mainWindow_);
+  CloseWhatIsOpen();
   elements_.Free();
+}
+
+// Boxes, the dialog, the menu and the input panel go with the window that they belonged to.
+void Application::CloseWhatIsOpen() {
+  device_.Popups().Close();
+  device_.Boxes().DismissAll();
+  while (device_.DialogBoxes().ModalOpen() && device_.DialogBoxes().DismissFront()) {
+  }
+  device_.Panel().Request(false);
 }
 
 void Application::DestroyTools() {

@@ -58,12 +58,15 @@ void PlaySession::Settle() {
     if (!Running()) return;
     nextTimer_ = TheDevice().Step(host_.Now());
     program_->AfterStep();
-    if (!Running()) return;
+    if (!Running()) return ShowWhatIsLeft();
     if (!host_.ApplyScale(TheDevice()) && TheDevice().Quiescent()) return;
   }
   Fail("the program does not come to rest");
   stuck_ = true;
 }
+
+// What the program took off the screen at its end is not seen any more.
+void PlaySession::ShowWhatIsLeft() { TheDevice().Step(host_.Now()); }
 
 void PlaySession::Wait(int milliseconds) {
   const std::int64_t end = host_.Now() + milliseconds;

@@ -25,6 +25,7 @@ class PlaySession {
 
   // Steps the program until nothing is left to do or it has ended.
   void Settle();
+  void ShowWhatIsLeft();
   // Moves the clock from timer to timer, so that each fires at its own time and in order.
   void Wait(int milliseconds);
 

@@ -88,6 +88,24 @@ TEST(CleanUp, WaitsForNobodyWithABoxOrDialogOpen) {
   bed.TheDevice().CloseFromOutside();
   bed.Settle();
   EXPECT_EQ(bed.App().Ended(), 0);
+  EXPECT_FALSE(bed.TheDevice().Boxes().Open());
+  EXPECT_EQ(bed.TheDevice().DialogBoxes().FrontName(), "");
+}
+
+TEST(CleanUp, LeavesNoMenuAndNoInputPanelOpen) {
+  Bed bed;
+  bed.Start();
+  bed.TheDevice().Panel().Toggle();
+  MenuItem entry;
+  entry.id = 5;
+  entry.label = u"Entry";
+  bed.TheDevice().Popups().Track(Menu({entry}), {30, 295}, bed.TheDevice().MainWindow());
+  ASSERT_TRUE(bed.TheDevice().Popups().Open());
+  ASSERT_TRUE(bed.TheDevice().Panel().Visible());
+  bed.TheDevice().CloseFromOutside();
+  bed.Settle();
+  EXPECT_FALSE(bed.TheDevice().Popups().Open());
+  EXPECT_FALSE(bed.TheDevice().Panel().Visible());
 }
 
 TEST(CleanUp, SkipsToolsThatWereNeverThere) {
