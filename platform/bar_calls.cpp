@@ -50,6 +50,7 @@ void MenuBarArea::Show(BarHandle bar, bool visible) {
 void MenuBarArea::SetImages(BarHandle bar, std::vector<std::shared_ptr<const Image>> cells) {
   Bar* found = bars_.Find(bar);
   if (found == nullptr) return;
+  Trace("images", bar, static_cast<int>(cells.size()), 0);
   found->images = std::move(cells);
   if (bar == bars_.Shown()) Changed();
 }

@@ -64,7 +64,7 @@ TEST(StartUp, EverythingIsMadeInItsOrder) {
               ElementsAre("main window created", "bar create 1 7 6", "make helpView", "make wnd_element",
                           "make wnd_periodic", "make wnd_find", "make wnd_mass", "make wnd_series",
                           "make wnd_balancer", "make wnd_plot", "make wnd_plotset", "make wnd_const",
-                          "bar create 2 3 2", "bar show 2 0 0", "show wnd_periodic"));
+                          "bar create 2 3 2", "bar images 2 23 0", "bar show 2 0 0", "show wnd_periodic"));
 }
 
 TEST(StartUp, ToolsFindEverythingReadyWhenTheyAreMade) {
