@@ -67,8 +67,9 @@ void Application::DrawTitleStrip(Canvas& canvas, const FontFamily& family, TextV
 }
 
 Menu& Application::PopupMenu(int position) {
-  Menu* menu = device_.Bars().ButtonMenu(popupBar_, position);
-  return menu ? *menu : noMenu_;
+  if (Menu* menu = device_.Bars().ButtonMenu(popupBar_, position)) return *menu;
+  noMenu_ = Menu();  // what was appended to it is not kept
+  return noMenu_;
 }
 
 void Application::Tell(TextView text, MessageIcon icon) {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <fstream>
 #include <iostream>
+#include <utility>
 
 #include "app/options.h"
 #include "app/played_application.h"
@@ -139,8 +140,9 @@ int RunScript(const Options& options) {
   play.outFolder = options.outFolder;
   play.fontFolder = DataFolder(options);
   play.start = [&](Host& host, const DeviceOptions& deviceOptions) -> std::unique_ptr<PlayedProgram> {
-    return std::make_unique<PlayedApplication>(host, deviceOptions, *store,
-                                               ApplicationOptions{DataFolder(options), StandardTools()});
+    auto program = std::make_unique<PlayedApplication>(
+        host, deviceOptions, *store, ApplicationOptions{DataFolder(options), StandardTools()});
+    return FacesFound(program->GetDevice()) ? std::move(program) : nullptr;
   };
   return Play(*script, play, std::cout, std::cerr);
 }

@@ -23,8 +23,8 @@ class PlayedApplication : public PlayedProgram {
   Application& GetApplication() { return application_; }
 
  private:
-  mutable Device device_;
-  mutable Application application_;
+  Device device_;
+  mutable Application application_;  // the tool stack is asked for in a way that could change it
 };
 
 }  // namespace orvane

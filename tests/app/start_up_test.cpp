@@ -24,7 +24,10 @@ TEST(StartUp, TheLoadingBoxStaysUntilTheFirstToolHasCome) {
   Bed bed;
   std::string whileMade;
   std::string whileShown;
-  bed.whenMade = [&](ToolSlot) { whileMade = bed.TheDevice().DialogBoxes().FrontName(); };
+  bed.whenMade = [&](ToolSlot) {
+    whileMade = bed.TheDevice().DialogBoxes().FrontName();
+    for (const ScreenRun& run : bed.TheDevice().VisibleRuns()) EXPECT_EQ(run.run.font.face, u"Tahoma");
+  };
   bed.PartOf(ToolSlot::kPeriodic).whenShown = [&] { whileShown = bed.TheDevice().DialogBoxes().FrontName(); };
   bed.Start();
   EXPECT_EQ(whileMade, "loading");
@@ -321,7 +324,10 @@ TEST(StartUpFailure, WithoutThePopUpBarToolsGetEmptyMenus) {
   bed.Start();
   EXPECT_THAT(Only(bed.log, "box"),
               ElementsAre("box error|Orvane|Orvane::InitApp - SHCreateMenuBar Failed - IDR_POPUP (1)"));
-  for (int position = 0; position < 7; ++position) EXPECT_EQ(bed.App().PopupMenu(position).Count(), 0);
+  for (int position = 0; position < 7; ++position) {
+    EXPECT_EQ(bed.App().PopupMenu(position).Count(), 0);
+    bed.App().PopupMenu(position).Append({.id = 1000, .label = u"Nowhere", .submenu = {}});
+  }
   EXPECT_EQ(bed.BarIds().size(), 3u);
   EXPECT_THAT(bed.VisibleTools(), ElementsAre("wnd_periodic"));
 }
