@@ -1,6 +1,7 @@
 // The program: in a window, or under a script without one. Each way returns the process's exit status.
 #include <array>
 #include <cmath>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <utility>
@@ -150,9 +151,13 @@ int RunScript(const Options& options) {
 }  // namespace
 }  // namespace orvane
 
-int main(int argc, char** argv) {
+// Nothing here throws of its own; what the library throws, when memory ends, becomes a message and a status.
+int main(int argc, char** argv) try {
   const auto parsed = orvane::ParseOptions(argc, argv);
   if (const int* status = std::get_if<int>(&parsed)) return *status;
   const orvane::Options& options = std::get<orvane::Options>(parsed);
   return options.script ? orvane::RunScript(options) : orvane::RunInWindow(options);
+} catch (const std::exception& error) {
+  std::cerr << "orvane: " << error.what() << '\n';
+  return orvane::kExitNoWindow;
 }

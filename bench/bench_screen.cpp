@@ -7,9 +7,8 @@
 
 #include "platform/device.h"
 
+namespace orvane {
 namespace {
-
-using namespace orvane;
 
 class MemoryHost : public Host {
  public:
@@ -75,7 +74,7 @@ class DraggedPanel {
 void DragStep(benchmark::State& state) {
   DraggedPanel panel(OptionsFor(state));
   int direction = 1;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     panel.Scroll(5 * direction, 7 * direction);
     panel.Step();
     direction = -direction;
@@ -85,14 +84,15 @@ BENCHMARK(DragStep)->Arg(100)->Arg(150)->Arg(200)->Arg(300)->Unit(benchmark::kMi
 
 void FullRepaint(benchmark::State& state) {
   DraggedPanel panel(OptionsFor(state));
-  for (auto _ : state) panel.GetDevice().RepaintEverything();
+  for ([[maybe_unused]] auto _ : state) panel.GetDevice().RepaintEverything();
 }
 BENCHMARK(FullRepaint)->Arg(100)->Arg(200)->Arg(300)->Unit(benchmark::kMicrosecond);
 
 void IdleStep(benchmark::State& state) {
   DraggedPanel panel(OptionsFor(state));
-  for (auto _ : state) panel.Step();
+  for ([[maybe_unused]] auto _ : state) panel.Step();
 }
 BENCHMARK(IdleStep)->Arg(200)->Unit(benchmark::kNanosecond);
 
 }  // namespace
+}  // namespace orvane

@@ -5,19 +5,19 @@
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <string>
 #include <vector>
 
-extern char** environ;
-
 namespace {
 
 // Starts the program once and waits for its end; its exit status, or −1 when it could not be started.
 int RunOnce(const std::vector<std::string>& arguments) {
+  std::vector<std::string> words = arguments;
   std::vector<char*> argv;
-  for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+  for (std::string& word : words) argv.push_back(word.data());
   argv.push_back(nullptr);
   pid_t process = 0;
   if (posix_spawn(&process, argv[0], nullptr, nullptr, argv.data(), environ) != 0) return -1;

@@ -11,8 +11,6 @@
 namespace orvane {
 namespace {
 
-using namespace chrome;
-
 constexpr int kTopHairline = 1;
 constexpr Size kIcon{16, 16};
 // A drop-down's picture moves left to make room for the arrow. The arrow points up: that is where the menu

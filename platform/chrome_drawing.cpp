@@ -5,7 +5,7 @@
 
 #include "platform/chrome_style.h"
 
-namespace orvane::chrome {
+namespace orvane {
 namespace {
 
 constexpr TextView kEllipsis = u"...";
@@ -109,4 +109,4 @@ void DrawMessageSign(Canvas& canvas, MessageIcon icon, Point p) {
   }
 }
 
-}  // namespace orvane::chrome
+}  // namespace orvane

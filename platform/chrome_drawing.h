@@ -6,7 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/message_boxes.h"
 
-namespace orvane::chrome {
+namespace orvane {
 
 enum class Direction { kUp, kDown, kLeft, kRight };
 
@@ -35,4 +35,4 @@ void DrawCross(Canvas& canvas, const Rect& rect, Colour colour, int width);
 inline constexpr Size kMessageSign{24, 24};
 void DrawMessageSign(Canvas& canvas, MessageIcon icon, Point topLeft);
 
-}  // namespace orvane::chrome
+}  // namespace orvane

@@ -4,7 +4,7 @@
 #include "base/colour.h"
 #include "platform/font.h"
 
-namespace orvane::chrome {
+namespace orvane {
 
 inline constexpr Colour kDeepBlue = Rgb(0, 66, 138);      // title area, captions, highlights
 inline constexpr Colour kAccent = Rgb(0, 121, 255);       // marks, focus, what is switched on
@@ -27,4 +27,4 @@ inline constexpr int kMenuPixels = 13;
 inline constexpr int kBodyPixels = 12;
 inline constexpr int kSmallPixels = 11;
 
-}  // namespace orvane::chrome
+}  // namespace orvane

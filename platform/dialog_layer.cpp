@@ -11,8 +11,6 @@
 namespace orvane {
 namespace {
 
-using namespace chrome;
-
 struct OpenDialog {
   DialogTemplate shape;
   bool modal = false;

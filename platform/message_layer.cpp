@@ -11,8 +11,6 @@
 namespace orvane {
 namespace {
 
-using namespace chrome;
-
 constexpr int kLineGap = 2;
 constexpr int kWheelLines = 3;  // a notch of the wheel is three arrow steps
 

@@ -9,8 +9,6 @@
 namespace orvane {
 namespace {
 
-using namespace chrome;
-
 constexpr int kNoKey = -1;
 
 class KeyboardPanel final : public PanelLayer {

@@ -10,8 +10,6 @@
 namespace orvane {
 namespace {
 
-using namespace chrome;
-
 constexpr int kWheelRows = 3;  // rows that one notch of the wheel scrolls
 
 class PopupMenu final : public PopupLayer {

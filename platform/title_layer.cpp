@@ -22,7 +22,6 @@ class TitleArea final : public TitleLayer {
   Rect Bounds() const override { return kTitleArea; }
 
   void Paint(Canvas& canvas) override {
-    using namespace chrome;
     canvas.FillRect(Rect::At({0, 0}, kTitleArea.GetSize()), kDeepBlue);
     const Font& font = device_.Fonts().GetFont(TextFont(kTitlePixels, true));
     const Rect line{kTextLeft, 0, kCloseBox.left - 4, kTitleArea.Height()};

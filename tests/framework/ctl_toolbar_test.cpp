@@ -58,7 +58,8 @@ TEST_F(ToolbarTest, StartsHiddenAndWithoutThePlaceholder) {
   // The resource's bar has one button, which is deleted; the flags are those of a hidden bar.
   const std::string handle = std::to_string(bar.Handle());
   EXPECT_EQ(shell_.Trace().barCalls,
-            (std::vector<std::string>{"create " + handle + " 1 2", "delete " + handle + " 0 0"}));
+            (std::vector<std::string>{"create " + handle + " 1 2", "images " + handle + " 23 0",
+                                      "delete " + handle + " 0 0"}));
   EXPECT_FALSE(shell_.GetDevice().Boxes().Open());
 }
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvane::chrome {
+namespace orvane {
 namespace {
 
 // Every unit is 6 wide, but a low surrogate, which has no width of its own.
@@ -42,4 +42,4 @@ TEST(FitText, APairIsNotParted) {
 }
 
 }  // namespace
-}  // namespace orvane::chrome
+}  // namespace orvane
