@@ -73,6 +73,8 @@ void AwaitAnswer(int connection) {
 }  // namespace
 
 struct InstanceLock::Socket {
+  explicit Socket(Descriptor opened) : listener(std::move(opened)) {}
+
   Descriptor listener;
   std::thread watcher;
 };
@@ -86,7 +88,7 @@ InstanceLock::Result InstanceLock::Acquire(std::string_view name) {
     if (!listener.Open()) return {};
     if (bind(listener.Number(), address.Get(), address.length) == 0) {
       if (listen(listener.Number(), kWaitingStarts) != 0) return {};
-      auto socket = std::unique_ptr<Socket>(new Socket{std::move(listener), {}});
+      auto socket = std::make_unique<Socket>(std::move(listener));
       return {Outcome::kFirst, std::unique_ptr<InstanceLock>(new InstanceLock(std::move(socket)))};
     }
     if (errno != EADDRINUSE) return {};

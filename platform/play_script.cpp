@@ -328,11 +328,9 @@ PlayScript ParsePlayScript(std::string_view script) {
     std::string message;
     PlayCommand command;
     command.line = number;
-    if (!SplitScriptLine(FromUtf8(line), words, message)) {
-      parsed.errors.push_back({number, message});
-    } else if (words.empty()) {
-      continue;
-    } else if (ReadCommand(words, command, message)) {
+    const bool split = SplitScriptLine(FromUtf8(line), words, message);
+    if (split && words.empty()) continue;
+    if (split && ReadCommand(words, command, message)) {
       parsed.commands.push_back(std::move(command));
     } else {
       parsed.errors.push_back({number, message});

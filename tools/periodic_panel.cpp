@@ -21,7 +21,7 @@ constexpr std::array<TextView, 8> kMainGroups{u"I", u"II", u"III", u"IV", u"V", 
 constexpr int kGroups = 18;
 
 struct LetterColour {
-  Char letter;
+  Char letter = 0;
   Colour fill;
 };
 
