@@ -42,7 +42,7 @@ Result Application::OnMainMessage(WindowHandle window, std::uint32_t message, WP
       OnCommand(CommandId(w));
       return 0;
     case WM_NOTIFY: {
-      const auto* notification = reinterpret_cast<const BarNotification*>(l);  // NOLINT(performance-no-int-to-ptr)
+      const BarNotification* notification = NotificationOf(l);
       if (notification && notification->code == TBN_DROPDOWN) return ForwardDropDown(*notification);
       return 0;
     }

@@ -9,7 +9,7 @@ Result ZelToolWindow::WndProc(WindowHandle, std::uint32_t message, WParam w, LPa
   }
   if (message == WM_LBUTTONDOWN) GetDevice().SetFocus(Handle());
   if (message == WM_NOTIFY && l != 0) {
-    const auto* notification = reinterpret_cast<const BarNotification*>(l);  // NOLINT(performance-no-int-to-ptr)
+    const BarNotification* notification = NotificationOf(l);
     if (notification->code == TBN_DROPDOWN) {
       return OnMessage(kToolCommand, static_cast<WParam>(notification->id), kFromDropDown);
     }

@@ -33,12 +33,17 @@ struct BarButton {
   Menu menu;   // of a menu button
 };
 
-// What WM_NOTIFY's lParam points to.
+// What the bar says with WM_NOTIFY.
 struct BarNotification {
   BarHandle bar = kNoBar;
   int code = 0;  // TBN_DROPDOWN
   int id = 0;    // the button's command id
 };
+
+// What WM_NOTIFY's lParam points to: null for 0.
+inline const BarNotification* NotificationOf(LParam l) {
+  return reinterpret_cast<const BarNotification*>(l);  // NOLINT(performance-no-int-to-ptr)
+}
 
 // A visible button as it stands on the screen.
 struct BarButtonPlace {

@@ -58,7 +58,7 @@ void JsonTrace::MessageDispatched(WindowHandle window, std::uint32_t message, WP
   }
   event["w"] = w;
   if (message == WM_NOTIFY && l != 0) {
-    const auto& notification = *reinterpret_cast<const BarNotification*>(l);  // NOLINT(performance-no-int-to-ptr)
+    const BarNotification& notification = *NotificationOf(l);
     event["code"] = notification.code;
     event["id"] = notification.id;
   } else if (message != WM_CREATE) {

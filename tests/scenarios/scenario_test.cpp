@@ -79,13 +79,14 @@ class Scenario : public ::testing::TestWithParam<std::string> {
     MemorySettings memory;
     std::optional<SettingsFile> file;
     if (stage_.settings) file.emplace(*stage_.settings);
-    SettingsStore& store = file ? static_cast<SettingsStore&>(*file) : memory;
+    SettingsStore* store = &memory;
+    if (file) store = &*file;
     PlayOptions options;
     options.scale = stage_.scale;
     options.outFolder = (work_ / "out").string();
     options.start = [&](Host& host, const DeviceOptions& deviceOptions) -> std::unique_ptr<PlayedProgram> {
       host_ = static_cast<HeadlessHost*>(&host);
-      return std::make_unique<PlayedApplication>(host, deviceOptions, store,
+      return std::make_unique<PlayedApplication>(host, deviceOptions, *store,
                                                  ApplicationOptions{stage_.dataFolder, StandardTools()});
     };
     options.afterVerb = [this](PlayedProgram& program, int line) { AfterVerb(program, line); };
