@@ -115,8 +115,7 @@ void LoggingHost::FrameChanged(const Rect&) {
 
 // --- The bed.
 
-Bed::Bed(BedOptions options) {
-  folder = options.data.value_or(ORVANE_BIN_DIR "/");
+Bed::Bed(BedOptions options) : folder(options.data.value_or(ORVANE_BIN_DIR "/")) {
   DeviceOptions deviceOptions;
   deviceOptions.recordRuns = true;
   deviceOptions.panelMode = PanelMode::kAlways;
