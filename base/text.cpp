@@ -108,6 +108,25 @@ std::string ToUtf8(TextView text) {
   return out;
 }
 
+std::string HexText(std::uint32_t value, int digits) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string out;
+  for (int i = digits; i-- > 0;) out.push_back(i < 8 ? kDigits[(value >> (4 * i)) & 0xFu] : '0');
+  return out;
+}
+
+Text WithoutLoneSurrogates(TextView text) {
+  Text out(text);
+  for (std::size_t i = 0; i < out.size(); ++i) {
+    if (IsSurrogatePairAt(text, i)) {
+      ++i;
+    } else if (IsSurrogate(out[i])) {
+      out[i] = static_cast<Char>(kReplacement);
+    }
+  }
+  return out;
+}
+
 Text DecimalText(std::int64_t value) { return FromUtf8(std::to_string(value)); }
 
 Text WithNumber(TextView textTemplate, std::int64_t value) {

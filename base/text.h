@@ -32,6 +32,19 @@ constexpr bool IsAsciiLetter(Char c) { return IsAsciiUpper(c) || IsAsciiLower(c)
 constexpr Char AsciiLower(Char c) { return IsAsciiUpper(c) ? static_cast<Char>(c + 32) : c; }
 constexpr Char AsciiUpper(Char c) { return IsAsciiLower(c) ? static_cast<Char>(c - 32) : c; }
 
+// C0, delete and C1: nothing that a screen shows.
+constexpr bool IsControl(Char c) { return c < 0x20 || (c >= 0x7F && c <= 0x9F); }
+
+// The value of a hexadecimal digit in either case, or -1.
+constexpr int HexDigitValue(Char c) {
+  if (IsAsciiDigit(c)) return c - u'0';
+  const Char lower = AsciiLower(c);
+  return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
+}
+
+// The number's lowest `digits` hexadecimal digits, in lower case.
+std::string HexText(std::uint32_t value, int digits);
+
 // The halves of a pair that stands for a character beyond U+FFFF.
 constexpr bool IsHighSurrogate(Char c) { return c >= 0xD800 && c <= 0xDBFF; }
 constexpr bool IsLowSurrogate(Char c) { return c >= 0xDC00 && c <= 0xDFFF; }
@@ -41,6 +54,9 @@ constexpr bool IsSurrogate(Char c) { return c >= 0xD800 && c <= 0xDFFF; }
 constexpr bool IsSurrogatePairAt(TextView text, std::size_t at) {
   return at + 1 < text.size() && IsHighSurrogate(text[at]) && IsLowSurrogate(text[at + 1]);
 }
+
+// The text with U+FFFD in the place of each lone surrogate, for readers that want well-formed UTF-8.
+Text WithoutLoneSurrogates(TextView text);
 
 // Decimal text of a number, with a minus sign when it is negative.
 Text DecimalText(std::int64_t value);

@@ -6,12 +6,6 @@ namespace orvane {
 
 namespace {
 
-void AppendEscape(std::string& out, Char c) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  out += "\\u";
-  for (int shift = 12; shift >= 0; shift -= 4) out.push_back(kDigits[(c >> shift) & 0xF]);
-}
-
 // Appends one unit that is no part of a surrogate pair.
 void AppendUnit(std::string& out, Char c) {
   if (c == u'"' || c == u'\\') {
@@ -19,8 +13,8 @@ void AppendUnit(std::string& out, Char c) {
     out.push_back(static_cast<char>(c));
   } else if (c == u'\n') {
     out += "\\n";
-  } else if (c < 0x20 || (c >= 0x7F && c <= 0x9F) || IsSurrogate(c)) {
-    AppendEscape(out, c);
+  } else if (IsControl(c) || IsSurrogate(c)) {
+    out += "\\u" + HexText(c, 4);
   } else {
     out += ToUtf8(TextView(&c, 1));
   }

@@ -1,16 +1,10 @@
 #include "cli/plain_text.h"
 
-#include <array>
+#include "base/styled_text.h"
 
 namespace orvane {
 
 namespace {
-
-constexpr Char kStyleCode = 1;
-constexpr unsigned kLoweredBit = 0x40;
-constexpr unsigned kRaisedBit = 0x80;
-
-enum class Position { kNormal, kLowered, kRaised };
 
 struct Shifted {
   Char plain;
@@ -25,23 +19,15 @@ constexpr Shifted kShifted[] = {
     {u'i', u'ᵢ', u'ⁱ'}, {u'n', u'ₙ', u'ⁿ'},
 };
 
-Char ShiftedForm(Char c, Position position) {
+Char ShiftedForm(Char c, TextPosition position) {
   for (const Shifted& entry : kShifted) {
-    if (entry.plain == c) return position == Position::kRaised ? entry.raised : entry.lowered;
+    if (entry.plain == c) return position == TextPosition::kRaised ? entry.raised : entry.lowered;
   }
   return 0;
 }
 
-constexpr bool IsTerminalControl(Char c) { return (c < 0x20 && c != u'\n') || (c >= 0x7F && c <= 0x9F); }
-
-// Raised wins when a code asks for both.
-Position PositionOf(Char flags) {
-  if ((flags & kRaisedBit) != 0) return Position::kRaised;
-  return (flags & kLoweredBit) != 0 ? Position::kLowered : Position::kNormal;
-}
-
-void AppendRun(Text& out, const Text& run, Position position) {
-  if (run.empty() || position == Position::kNormal) {
+void AppendRun(Text& out, const Text& run, TextPosition position) {
+  if (run.empty() || position == TextPosition::kNormal) {
     out += run;
     return;
   }
@@ -49,7 +35,7 @@ void AppendRun(Text& out, const Text& run, Position position) {
   for (const Char c : run) {
     const Char form = ShiftedForm(c, position);
     if (form == 0) {
-      out += position == Position::kRaised ? u'^' : u'_';
+      out += position == TextPosition::kRaised ? u'^' : u'_';
       out += run;
       return;
     }
@@ -58,31 +44,22 @@ void AppendRun(Text& out, const Text& run, Position position) {
   out += shifted;
 }
 
-Text WithoutLoneSurrogates(Text text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (IsSurrogatePairAt(text, i)) {
-      ++i;
-    } else if (IsSurrogate(text[i])) {
-      text[i] = 0xFFFD;
-    }
-  }
-  return text;
-}
-
 }  // namespace
 
 std::string PlainText(TextView styled) {
   Text out;
-  Text run;
-  Position position = Position::kNormal;
-  for (std::size_t i = 0; i < styled.size(); ++i) {
-    if (styled[i] == kStyleCode) {
+  Text run;  // since the last code
+  TextPosition position = TextPosition::kNormal;
+  StyledStep step = FirstStep(styled);
+  for (; step.kind != StyledStep::Kind::kEnd; step = FirstStep(styled)) {
+    if (step.kind == StyledStep::Kind::kCode) {
       AppendRun(out, run, position);
       run.clear();
-      if (++i < styled.size()) position = PositionOf(styled[i]);
-    } else if (!IsTerminalControl(styled[i])) {
-      run += styled[i];
+      position = StyleFromFlags(step.value).position;
+    } else if (!IsControl(step.value) || step.value == kNewLine) {
+      run += step.value;
     }
+    styled.remove_prefix(step.length);
   }
   AppendRun(out, run, position);
   return ToUtf8(WithoutLoneSurrogates(out));

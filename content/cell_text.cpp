@@ -1,28 +1,19 @@
 #include "content/cell_text.h"
 
+#include <algorithm>
+
+#include "base/styled_text.h"
+
 namespace orvane {
 
 namespace {
 
-constexpr Char kStyleCode = 1;
-constexpr Char kPlainFlags = u' ';
-constexpr Char kRaisedFlags = 0x00A0;
-constexpr Char kLoweredFlags = 0x0060;
-
-constexpr bool IsControl(Char c) { return c < 0x20 || (c >= 0x7F && c <= 0x9F); }
-
-// The value of a hexadecimal digit, or -1.
-constexpr int HexDigit(Char c) {
-  if (IsAsciiDigit(c)) return c - u'0';
-  const Char lower = AsciiLower(c);
-  return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
-}
-
-std::string HexText(Char unit) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string out;
-  for (int shift = 12; shift >= 0; shift -= 4) out.push_back(kDigits[(unit >> shift) & 0xF]);
-  return out;
+// The four digits of a unit in capitals, as in U+00E9.
+std::string UnitText(Char unit) {
+  std::string hex = HexText(unit, 4);
+  std::transform(hex.begin(), hex.end(), hex.begin(),
+                 [](char c) { return static_cast<char>(AsciiUpper(static_cast<Char>(c))); });
+  return hex;
 }
 
 class CellParser {
@@ -42,14 +33,14 @@ class CellParser {
   void Step() {
     const Char c = cell_[at_];
     if (IsControl(c)) {
-      Fail("control character U+" + HexText(c) + " (write \\n or \\u" + HexText(c) + ")");
+      Fail("control character U+" + UnitText(c) + " (write \\n or \\u" + UnitText(c) + ")");
     } else if (c == u'\\') {
       Escape();
     } else if (c == u'^' || c == u'_') {
       OpenBrace(c);
     } else if (c == u'}' && braceOpen_) {
       braceOpen_ = false;
-      Put(kStyleCode), Put(kPlainFlags);
+      Put(kStyleMark), Put(kPlainFlags);
       ++at_;
     } else {
       Put(c);
@@ -64,7 +55,7 @@ class CellParser {
     }
     if (braceOpen_) return Fail("a ^{ or _{ inside another one");
     braceOpen_ = true;
-    Put(kStyleCode), Put(mark == u'^' ? kRaisedFlags : kLoweredFlags);
+    Put(kStyleMark), Put(mark == u'^' ? kRaisedFlags : kLoweredFlags);
     at_ += 2;
   }
 
@@ -85,7 +76,7 @@ class CellParser {
   void UnitEscape() {
     int unit = 0;
     for (std::size_t i = at_ + 2; i < at_ + 6; ++i) {
-      const int digit = i < cell_.size() ? HexDigit(cell_[i]) : -1;
+      const int digit = i < cell_.size() ? HexDigitValue(cell_[i]) : -1;
       if (digit < 0) return Fail("\\u without four hexadecimal digits");
       unit = unit * 16 + digit;
     }
@@ -93,17 +84,22 @@ class CellParser {
     at_ += 6;
   }
 
-  // The flags character of a style code may be any unit; every other control character is refused.
   void CheckUnits() {
-    for (std::size_t i = 0; i < out_.text.size(); ++i) {
-      const Char c = out_.text[i];
-      if (c == kStyleCode) {
-        if (++i >= out_.text.size()) return Fail("a style code U+0001 without its flags character");
-      } else if (IsControl(c) && c != u'\n') {
-        return Fail("control character U+" + HexText(c) + ", which no screen shows");
+    TextView rest = out_.text;
+    StyledStep step = FirstStep(rest);
+    for (; step.kind != StyledStep::Kind::kEnd; step = FirstStep(rest)) {
+      if (step.kind == StyledStep::Kind::kCharacter && IsControl(step.value) && step.value != kNewLine) {
+        return FailUnshown(step.value);
       }
+      rest.remove_prefix(step.length);
     }
+    if (rest.empty()) return;
+    // What would end the text on a screen.
+    if (rest.front() != kStyleMark) return FailUnshown(rest.front());
+    Fail("a style code U+0001 without its flags character");
   }
+
+  void FailUnshown(Char c) { Fail("control character U+" + UnitText(c) + ", which no screen shows"); }
 
   void Put(Char c) { out_.text.push_back(c); }
 
@@ -118,7 +114,7 @@ class CellParser {
 std::size_t BraceEnd(TextView text, std::size_t start) {
   for (std::size_t i = start; i + 1 < text.size(); ++i) {
     if (text[i] == u'}') return TextView::npos;
-    if (text[i] == kStyleCode) return text[i + 1] == kPlainFlags ? i : TextView::npos;
+    if (text[i] == kStyleMark) return text[i + 1] == kPlainFlags ? i : TextView::npos;
   }
   return TextView::npos;
 }
@@ -132,7 +128,7 @@ void WriteUnit(std::string& out, TextView text, std::size_t& i) {
     ++i;
   } else if (IsControl(c) || IsSurrogate(c) || (c == u' ' && (i == 0 || i + 1 == text.size()))) {
     // A blank at either end would be lost on a reader's eye, and the tables refuse it.
-    out += "\\u" + HexText(c);
+    out += "\\u" + UnitText(c);
   } else {
     if (TextView(u"\\^_@-").find(c) != TextView::npos && (c != u'-' || text.size() == 1)) out += '\\';
     out += ToUtf8(text.substr(i, 1));
@@ -150,7 +146,7 @@ std::string WriteCellText(TextView text) {
   std::string out;
   std::size_t braceEnd = TextView::npos;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != kStyleCode || i + 1 >= text.size()) {
+    if (text[i] != kStyleMark || i + 1 >= text.size()) {
       WriteUnit(out, text, i);
       continue;
     }
@@ -162,7 +158,7 @@ std::string WriteCellText(TextView text) {
       braceEnd = BraceEnd(text, i + 2);
       out += flags == kRaisedFlags ? "^{" : "_{";
     } else {
-      out += "\\u0001\\u" + HexText(flags);
+      out += "\\u0001\\u" + UnitText(flags);
     }
     ++i;
   }

@@ -4,9 +4,8 @@
 //   ^{...}    raised text: U+0001 U+00A0 in front, U+0001 U+0020 (plain) behind
 //   _{...}    lowered text: U+0001 U+0060 in front, U+0001 U+0020 behind
 //   \n        line feed, the only control character besides the style codes that a text may hold
-//   \uXXXX    the 16-bit unit with this hexadecimal number, for any other style code, a lone surrogate, or a
-//   blank
-//             at either end
+//   \uXXXX    the 16-bit unit with this hexadecimal number: any other style code, a lone surrogate, or a
+//             blank at either end
 //   \\ \^ \_ \@ \-   the character itself
 // Both ways are exact: ParseCellText(WriteCellText(t)) == t for every text whose units are allowed.
 #pragma once
@@ -24,8 +23,8 @@ struct CellText {
 };
 
 // The text of a cell (UTF-8, without its tabulators). Refused: bytes that are not UTF-8, raw control
-// characters, unknown escapes, an unclosed or nested brace form, a style code without its flags character,
-// and control characters other than line feed and style code, which no screen can show.
+// characters, unknown escapes, an unclosed or nested brace form, a style code whose flags are missing or
+// zero, and control characters other than line feed and style code, which no screen can show.
 CellText ParseCellText(std::string_view cell);
 
 // The cell of a text. A raised or lowered run that ends in the plain style uses the brace form.

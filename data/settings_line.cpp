@@ -8,15 +8,6 @@ namespace {
 
 constexpr std::string_view kDword = "dword:";
 constexpr std::string_view kHex = "hex:";
-constexpr std::string_view kHexDigits = "0123456789abcdef";
-
-// The value of a hexadecimal digit, or -1.
-int HexValue(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
 
 // A cursor over a line. Each Take consumes what it recognises and leaves the rest.
 class LineScanner {
@@ -39,8 +30,10 @@ class LineScanner {
   std::optional<std::uint32_t> TakeHex(std::size_t least, std::size_t most) {
     std::uint32_t value = 0;
     std::size_t digits = 0;
-    for (; digits < most && digits < rest_.size() && HexValue(rest_[digits]) >= 0; ++digits) {
-      value = value << 4 | static_cast<std::uint32_t>(HexValue(rest_[digits]));
+    for (; digits < most && digits < rest_.size(); ++digits) {
+      const int digit = HexDigitValue(static_cast<unsigned char>(rest_[digits]));
+      if (digit < 0) break;
+      value = value << 4 | static_cast<std::uint32_t>(digit);
     }
     if (digits < least) return std::nullopt;
     rest_.remove_prefix(digits);
@@ -128,13 +121,8 @@ std::optional<SettingValue> TakeValue(LineScanner& line) {
   return StringValue(*text);
 }
 
-void AppendHex(std::string& out, std::uint32_t value, int digits) {
-  for (int shift = (digits - 1) * 4; shift >= 0; shift -= 4)
-    out.push_back(kHexDigits[(value >> shift) & 0xF]);
-}
-
-// Control characters, which include those of U+0080 to U+009F, would hide in an editor or end the line.
-bool IsControl(Char c) { return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029; }
+// What would hide in an editor, or end the line there.
+bool IsHidden(Char c) { return IsControl(c) || IsSurrogate(c) || c == 0x2028 || c == 0x2029; }
 
 void AppendQuoted(std::string& out, TextView text) {
   out.push_back('"');
@@ -143,9 +131,8 @@ void AppendQuoted(std::string& out, TextView text) {
     const bool pair = IsSurrogatePairAt(text, i);
     if (pair) {
       out += ToUtf8(text.substr(i++, 2));
-    } else if (IsControl(c) || IsSurrogate(c)) {
-      out += "\\u";
-      AppendHex(out, c, 4);
+    } else if (IsHidden(c)) {
+      out += "\\u" + HexText(c, 4);
     } else {
       if (c == u'\\' || c == u'"') out.push_back('\\');
       out += ToUtf8(TextView(&c, 1));
@@ -183,7 +170,7 @@ std::string FormatSettingLine(TextView name, const SettingValue& value) {
   line.push_back('=');
   if (value.kind == SettingKind::kLong && bytes.size() == 4) {
     line += kDword;
-    for (std::size_t i = 4; i-- > 0;) AppendHex(line, bytes[i], 2);
+    for (std::size_t i = 4; i-- > 0;) line += HexText(bytes[i], 2);
   } else if (value.kind == SettingKind::kString && EndsWithZeroCharacter(bytes)) {
     Text text;
     for (std::size_t i = 0; i + 2 < bytes.size(); i += 2) {
@@ -194,7 +181,7 @@ std::string FormatSettingLine(TextView name, const SettingValue& value) {
     line += kHex;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
       if (i > 0) line.push_back(',');
-      AppendHex(line, bytes[i], 2);
+      line += HexText(bytes[i], 2);
     }
   }
   return line;

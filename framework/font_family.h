@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "framework/styled_text.h"
+#include "base/styled_text.h"
 #include "platform/device.h"
 
 namespace orvane {

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
+#include "base/styled_text.h"
 #include "framework/font_family.h"
-#include "framework/styled_text.h"
 
 namespace orvane {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "framework/styled_text.h"
+#include "base/styled_text.h"
 #include "framework/text_engine.h"
 #include "fuzz/require.h"
 #include "tests/framework/fake_drawing.h"

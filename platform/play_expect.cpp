@@ -1,5 +1,6 @@
 #include "platform/play_expect.h"
 
+#include "base/styled_text.h"
 #include "platform/play_report.h"
 #include "platform/play_trace.h"
 
@@ -15,7 +16,7 @@ std::string Compare(const std::string& what, const std::string& expected, const 
 }
 
 bool SomeLineContains(const Device& device, TextView text) {
-  const Text plain = WithoutStyleCodes(text);
+  const Text plain = WithoutCodes(text);
   for (const Text& line : VisibleLines(device)) {
     if (line.find(plain) != Text::npos) return true;
   }
@@ -35,7 +36,7 @@ std::string ExpectNoText(const Device& device, TextView text) {
 std::string ExpectMessage(const MessageBoxes& boxes, TextView text) {
   if (!boxes.Open()) return "no message box is open; expected one that contains " + Quoted(text);
   const Text& shown = boxes.Front().text;
-  if (WithoutStyleCodes(shown).find(WithoutStyleCodes(text)) != Text::npos) return {};
+  if (WithoutCodes(shown).find(WithoutCodes(text)) != Text::npos) return {};
   return "the front message box does not contain " + Quoted(text) + ", it says " + Quoted(shown);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "base/styled_text.h"
 #include "platform/play_trace.h"
 
 namespace orvane {
@@ -188,20 +189,8 @@ std::vector<Text> VisibleLines(const Device& device) {
   }
   std::vector<Text> texts;
   texts.reserve(lines.size());
-  for (const Line& line : lines) texts.push_back(WithoutStyleCodes(line.text));
+  for (const Line& line : lines) texts.push_back(WithoutCodes(line.text));
   return texts;
-}
-
-Text WithoutStyleCodes(TextView text) {
-  Text plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == u'\u0001') {
-      ++i;
-    } else {
-      plain += text[i];
-    }
-  }
-  return plain;
 }
 
 const MenuItem* FindEntry(const std::vector<MenuItem>& items, TextView label) {

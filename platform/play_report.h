@@ -17,9 +17,6 @@ Text ShownTitle(const Device& device);
 // The visible lines of text, bottom window first: the runs of each line joined without blanks.
 std::vector<Text> VisibleLines(const Device& device);
 
-// The text without its style codes: U+0001 and the character behind it.
-Text WithoutStyleCodes(TextView text);
-
 // The first entry with this label in a menu or below it; null when there is none.
 const MenuItem* FindEntry(const std::vector<MenuItem>& items, TextView label);
 

@@ -105,28 +105,10 @@ std::string_view IconName(MessageIcon icon) {
   return "none";
 }
 
-std::string JsonText(TextView text) {
-  constexpr auto high = [](Char c) { return c >= 0xD800 && c < 0xDC00; };
-  constexpr auto low = [](Char c) { return c >= 0xDC00 && c < 0xE000; };
-  Text whole(text);
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    if (high(whole[i]) && i + 1 < whole.size() && low(whole[i + 1])) {
-      ++i;
-    } else if (high(whole[i]) || low(whole[i])) {
-      whole[i] = u'\uFFFD';
-    }
-  }
-  return ToUtf8(whole);
-}
+std::string JsonText(TextView text) { return ToUtf8(WithoutLoneSurrogates(text)); }
 
 std::string HexColour(Colour colour) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string hex;
-  for (const std::uint8_t channel : {colour.red, colour.green, colour.blue}) {
-    hex += kDigits[channel >> 4];
-    hex += kDigits[channel & 0xF];
-  }
-  return hex;
+  return HexText(colour.red, 2) + HexText(colour.green, 2) + HexText(colour.blue, 2);
 }
 
 }  // namespace orvane

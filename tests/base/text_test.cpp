@@ -152,5 +152,37 @@ TEST(TextTest, TheFirstMarkOfATemplateIsReplaced) {
   EXPECT_EQ(WithText(u"File: %s", Text(u"a\0b", 3)), Text(u"File: a\0b", 9));
 }
 
+TEST(IsControlTest, HoldsBothControlRanges) {
+  for (const int c : {0x0000, 0x000A, 0x001F, 0x007F, 0x0080, 0x009F}) {
+    EXPECT_TRUE(IsControl(static_cast<Char>(c))) << c;
+  }
+  for (const int c : {0x0020, 0x007E, 0x00A0, 0x2028, 0xD800}) {
+    EXPECT_FALSE(IsControl(static_cast<Char>(c))) << c;
+  }
+}
+
+TEST(HexDigitValueTest, KnowsBothCases) {
+  EXPECT_EQ(HexDigitValue(u'0'), 0);
+  EXPECT_EQ(HexDigitValue(u'9'), 9);
+  EXPECT_EQ(HexDigitValue(u'a'), 10);
+  EXPECT_EQ(HexDigitValue(u'F'), 15);
+  for (const int c : {u'/', u':', u'@', u'G', u'`', u'g', u'\u0661'})
+    EXPECT_EQ(HexDigitValue(static_cast<Char>(c)), -1) << c;
+}
+
+TEST(HexTextTest, WritesTheLowestDigits) {
+  EXPECT_EQ(HexText(0xD800, 4), "d800");
+  EXPECT_EQ(HexText(0x0A, 2), "0a");
+  EXPECT_EQ(HexText(0x12345678, 2), "78");
+  EXPECT_EQ(HexText(0xFFFFFFFF, 9), "0ffffffff");
+  EXPECT_EQ(HexText(7, 0), "");
+}
+
+TEST(WithoutLoneSurrogatesTest, KeepsPairs) {
+  EXPECT_EQ(WithoutLoneSurrogates(u"a\U0001F600b"), u"a\U0001F600b");
+  EXPECT_EQ(WithoutLoneSurrogates(Text{0xD800, u'x', 0xDC00}), u"\uFFFDx\uFFFD");
+  EXPECT_EQ(WithoutLoneSurrogates(Text{0xDC00, 0xD83D, 0xDE00, 0xD83D}), u"\uFFFD\U0001F600\uFFFD");
+}
+
 }  // namespace
 }  // namespace orvane

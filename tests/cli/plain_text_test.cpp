@@ -26,6 +26,8 @@ INSTANTIATE_TEST_SUITE_P(
                       // A run with one character that has no raised form.
                       Case{u"10\u0001\u00A02x\u0001 !", "10^2x!"}, Case{u"C\u0001`max\u0001 ", "C_max"},
                       Case{u"a\u0001 b\u0001", "ab"}, Case{u"\u001B[31mred\u009B\u007F\n.", "[31mred\n."},
+                      // A character 0 ends the text.
+                      Case{TextView(u"a\0b", 3), "a"}, Case{TextView(u"a\u0001\0b", 4), "a"},
                       Case{kLoneSurrogate,
                            "a\xEF\xBF\xBD"
                            "b"},

@@ -64,7 +64,8 @@ TEST(CellText, SaysWhatIsWrong) {
       {"^{a", "is not closed"},
       {"^{a_{b}}", "inside another one"},
       {"\\u0001", "without its flags character"},
-      {"\\u0000", "U+0000, which no screen shows"},
+      {"\\u0001\\u0000", "without its flags character"},
+      {"a\\u0000b", "U+0000, which no screen shows"},
       {"\\u0002", "U+0002, which no screen shows"},
       {"\\u0009", "U+0009, which no screen shows"},
   };

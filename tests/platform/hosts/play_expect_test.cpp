@@ -82,12 +82,6 @@ TEST(PlayExpectPixel, LooksAtTheCentreAtEveryScale) {
   }
 }
 
-TEST(PlayStyleCodes, AreTakenOut) {
-  EXPECT_EQ(WithoutStyleCodes(u"a\u0001!b\u0001 c"), u"abc");
-  EXPECT_EQ(WithoutStyleCodes(u"\u0001"), u"");
-  EXPECT_EQ(WithoutStyleCodes(u""), u"");
-}
-
 TEST(JsonTextTest, IsAlwaysWellFormed) {
   EXPECT_EQ(JsonText(Text(u"a") + Char{0xD800} + u"b"),
             "a\xEF\xBF\xBD"

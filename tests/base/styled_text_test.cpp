@@ -1,4 +1,4 @@
-#include "framework/styled_text.h"
+#include "base/styled_text.h"
 
 #include <gtest/gtest.h>
 

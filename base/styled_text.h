@@ -12,6 +12,11 @@ namespace orvane {
 inline constexpr Char kStyleMark = 0x0001;
 inline constexpr Char kNewLine = 0x000A;
 
+// The flags that texts are written with: of every meaning the printable character that has it.
+inline constexpr Char kPlainFlags = u' ';
+inline constexpr Char kLoweredFlags = u'`';
+inline constexpr Char kRaisedFlags = 0x00A0;
+
 // Where text stands against the line: subscripts are lowered, superscripts raised.
 enum class TextPosition { kNormal = 0, kLowered = 1, kRaised = 2 };
 
