@@ -4,11 +4,10 @@
 //
 // Exit status: 0 when the file was written, 1 when a source is wrong (each problem on a line of standard
 // error; nothing is written), 2 for wrong usage.
-#include <cstdio>
-#include <fstream>
 #include <iostream>
 
 #include "content/elements_source.h"
+#include "data/file_replace.h"
 
 namespace {
 
@@ -17,6 +16,7 @@ using orvane::Table;
 using orvane::TableProblem;
 
 constexpr std::size_t kMostProblemsShown = 100;
+constexpr std::size_t kLargestSource = 64 * 1024 * 1024;
 
 void ShowProblems(const std::vector<TableProblem>& problems) {
   for (std::size_t i = 0; i < problems.size() && i < kMostProblemsShown; ++i) {
@@ -27,25 +27,13 @@ void ShowProblems(const std::vector<TableProblem>& problems) {
   }
 }
 
-// Writes beside the target and renames, so that a broken build leaves no half file.
-bool WriteWhole(const std::string& path, const std::string& bytes) {
-  const std::string draft = path + ".part";
-  {
-    std::ofstream out(draft, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) return false;
-  }
-  return std::rename(draft.c_str(), path.c_str()) == 0;
-}
-
 int CompileElements(const std::string& outPath, const std::string& sourcesPath,
                     const std::vector<std::string>& tablePaths) {
   std::vector<TableProblem> problems;
   const auto read = [&problems](const std::string& path) {
-    std::string bytes;
-    if (!orvane::ReadFileBytes(path, bytes)) problems.push_back({path, 0, 0, "cannot be read"});
-    return bytes;
+    orvane::FileContent file = orvane::ReadWholeFile(path, kLargestSource);
+    if (file.state != orvane::FileState::kRead) problems.push_back({path, 0, 0, "cannot be read"});
+    return std::move(file.bytes);
   };
   const std::string sources = read(sourcesPath);
   std::vector<Table> tables;
@@ -53,7 +41,7 @@ int CompileElements(const std::string& outPath, const std::string& sourcesPath,
   if (problems.empty()) {
     const orvane::ElementsSource elements =
         orvane::ReadElements(tables, orvane::ReadSourceKeys(sources), problems);
-    if (problems.empty() && WriteWhole(outPath, orvane::EncodeElements(elements))) return 0;
+    if (problems.empty() && orvane::ReplaceFile(outPath, orvane::EncodeElements(elements))) return 0;
     if (problems.empty()) problems.push_back({outPath, 0, 0, "cannot be written"});
   }
   ShowProblems(problems);

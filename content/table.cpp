@@ -1,8 +1,5 @@
 #include "content/table.h"
 
-#include <fstream>
-#include <iterator>
-
 namespace orvane {
 
 namespace {
@@ -38,13 +35,6 @@ Table ReadTable(std::string_view file, std::string_view content) {
     content.remove_prefix(end + 1);
   }
   return table;
-}
-
-bool ReadFileBytes(const std::string& path, std::string& bytes) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) return false;
-  bytes.assign(std::istreambuf_iterator<char>(in), {});
-  return !in.bad();
 }
 
 }  // namespace orvane

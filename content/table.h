@@ -34,7 +34,4 @@ struct Table {
 // cell is read.
 Table ReadTable(std::string_view file, std::string_view content);
 
-// Reads a whole file. Returns false when that fails.
-bool ReadFileBytes(const std::string& path, std::string& bytes);
-
 }  // namespace orvane

@@ -252,10 +252,18 @@ TEST_F(Compiler, NamesAFileThatItCannotRead) {
   EXPECT_EQ(result.err, folder_.File("missing.tsv") + ": cannot be read\n");
 }
 
+TEST_F(Compiler, NamesAFolderInThePlaceOfATable) {
+  std::filesystem::create_directory(folder_.File("folder"));
+  const ProgramResult result = Compile("folder");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.err, HasSubstr("folder: cannot be read"));
+  EXPECT_FALSE(std::filesystem::exists(folder_.File("out.dat")));
+}
+
 TEST_F(Compiler, NamesAFileThatItCannotWrite) {
   const ProgramResult result = RunProgram(
       ORVANE_CONTENT_COMPILER,
-      {"elements", folder_.File("no/such/folder/out.dat"), folder_.File("S.md"), folder_.File("a.tsv")});
+      {"elements", folder_.File("a.tsv/out.dat"), folder_.File("S.md"), folder_.File("a.tsv")});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.err, HasSubstr("out.dat: cannot be written"));
 }

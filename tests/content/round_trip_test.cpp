@@ -61,13 +61,8 @@ TEST(RoundTrip, LoadsTheBuiltFileAsTheTablesSay) {
   }
   std::sort(paths.begin(), paths.end());
   std::vector<Table> tables;
-  for (const std::string& path : paths) {
-    std::string bytes;
-    ASSERT_TRUE(ReadFileBytes(path, bytes));
-    tables.push_back(ReadTable(path, bytes));
-  }
-  std::string sources;
-  ASSERT_TRUE(ReadFileBytes((content / "SOURCES.md").string(), sources));
+  for (const std::string& path : paths) tables.push_back(ReadTable(path, ReadBytes(path)));
+  const std::string sources = ReadBytes((content / "SOURCES.md").string());
   std::vector<TableProblem> problems;
   const ElementsSource source = ReadElements(tables, ReadSourceKeys(sources), problems);
   ASSERT_THAT(problems, ::testing::IsEmpty());
