@@ -17,7 +17,6 @@ namespace orvane {
 // The main window's class and the key under which all settings are kept.
 inline constexpr TextView kMainWindowClass = u"BrixWindowCls";
 inline constexpr TextView kSettingsKey = u"Software\\Zel Software\\Orvane";
-inline constexpr const char* kElementsFile = "periodic.dat";
 
 // Exit codes.
 inline constexpr int kExitNormal = 0;

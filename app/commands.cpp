@@ -4,19 +4,19 @@ namespace orvane {
 
 std::optional<ToolSlot> SwitchTarget(int command) {
   switch (command) {
-    case 40008:
+    case kCommandPeriodic:
       return ToolSlot::kPeriodic;
-    case 40009:
+    case kCommandFind:
       return ToolSlot::kFind;
-    case 40011:
+    case kCommandSeries:
       return ToolSlot::kSeries;
     case kCommandConstants:
       return ToolSlot::kConstants;
-    case 40007:
+    case kCommandMass:
       return ToolSlot::kMass;
-    case 40013:
+    case kCommandBalancer:
       return ToolSlot::kBalancer;
-    case 40065:
+    case kCommandPlot:
       return ToolSlot::kPlot;
     default:
       return std::nullopt;

@@ -12,7 +12,15 @@ inline constexpr int kCommandHelp = 40064;
 inline constexpr int kCommandExit = 40016;
 inline constexpr int kCommandElementInfo = 40010;
 inline constexpr int kCommandShowHelp = 40167;
+
+// These switch to a tool.
+inline constexpr int kCommandPeriodic = 40008;
+inline constexpr int kCommandFind = 40009;
+inline constexpr int kCommandSeries = 40011;
 inline constexpr int kCommandConstants = 40146;
+inline constexpr int kCommandMass = 40007;
+inline constexpr int kCommandBalancer = 40013;
+inline constexpr int kCommandPlot = 40065;
 
 // The tool that a command switches to; nothing for a command that switches to none.
 std::optional<ToolSlot> SwitchTarget(int command);

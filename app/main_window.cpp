@@ -10,7 +10,6 @@ namespace orvane {
 
 namespace {
 
-constexpr Rect kAboutRect = Rect::At(0, 26, 240, 268);
 constexpr int kFirstElement = 0;
 constexpr int kFirstHelpPage = 0;
 
@@ -77,8 +76,7 @@ Result Application::ForwardDropDown(const BarNotification& notification) {
 }
 
 void Application::ShowAbout() {
-  if (auto dialog = LoadResourceDialog(device_, kAboutDialog, "about")) {
-    dialog->rect = kAboutRect;
+  if (const auto dialog = LoadResourceDialog(device_, kAboutDialog, "about")) {
     device_.DialogBoxes().ShowModal(*dialog);
   }
 }

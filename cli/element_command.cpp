@@ -11,7 +11,6 @@ namespace orvane {
 
 namespace {
 
-constexpr std::string_view kFileName = "periodic.dat";
 constexpr TextView kBlanks = u" \t";
 
 TextView Trimmed(TextView text) {
@@ -47,10 +46,6 @@ int IndexOfNumber(TextView query) {
     number = number * 10 + (c - u'0');
   }
   return number >= 1 && number <= ElementsDatabase::kElementCount ? number - 1 : -1;
-}
-
-TextView ValueOf(const ElementProperty* property, int element) {
-  return property == nullptr ? TextView() : property->Value(element);
 }
 
 // What a one-letter code stands for; empty for every other property.
@@ -155,7 +150,7 @@ int FindElement(const ElementsDatabase& elements, TextView query) {
 void ShowElements(Session& session, const std::vector<std::string>& queries, bool asJson) {
   MessageCollector messages;
   ElementsDatabase elements;
-  const bool loaded = elements.Load(session.dataFolder + std::string(kFileName), messages) == 1;
+  const bool loaded = elements.Load(session.dataFolder + kElementsFile, messages) == 1;
   for (const MessageRun& run : messages.Runs()) {
     session.Fail(PlainText(run.text) + (run.count > 1 ? " (" + std::to_string(run.count) + " times)" : ""));
   }

@@ -7,8 +7,6 @@ namespace orvane {
 
 namespace {
 
-constexpr std::uint32_t kMagic = 0xFFE8EBDE;
-
 std::uint16_t Count(std::size_t count) { return static_cast<std::uint16_t>(count); }
 
 void WriteProperty(DatWriter& out, const PropertySource& property) {
@@ -30,7 +28,7 @@ void WriteProperty(DatWriter& out, const PropertySource& property) {
 
 std::string EncodeElements(const ElementsSource& source) {
   DatWriter out;
-  out.Long(kMagic);
+  out.Long(ElementsDatabase::kMagic);
   out.Short(Count(source.categories.size()));
   for (const CategorySource& category : source.categories) {
     out.ZeroTerminatedString(category.name);

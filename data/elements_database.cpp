@@ -9,8 +9,6 @@ namespace orvane {
 
 namespace {
 
-constexpr std::uint32_t kMagic = 0xFFE8EBDEu;
-
 constexpr TextView kCannotOpen =
     u"Failed to open the elements database file. Some of the features will not be available. "
     u"Try to reinstall the application.\n\nFile: %s";
@@ -141,8 +139,7 @@ const ElementProperty* ElementsDatabase::FindProperty(int category, int property
 }
 
 TextView ElementsDatabase::Value(int category, int property, int element) const {
-  const ElementProperty* const found = FindProperty(category, property);
-  return found == nullptr ? TextView() : found->Value(element);
+  return ValueOf(FindProperty(category, property), element);
 }
 
 }  // namespace orvane

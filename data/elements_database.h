@@ -27,6 +27,9 @@ namespace orvane {
 
 class ZelBinary;
 
+// The name of the file in the folder of the data files.
+inline constexpr const char* kElementsFile = "periodic.dat";
+
 // The texts of all properties. Properties point here, so it stays where it is.
 struct ElementTexts {
   TextPool pool;
@@ -66,6 +69,11 @@ class ElementProperty {
   bool plottable_ = false;
 };
 
+// The property's value for the element; empty also when there is no such property.
+inline TextView ValueOf(const ElementProperty* property, int element) {
+  return property == nullptr ? TextView() : property->Value(element);
+}
+
 class ElementCategory {
  public:
   TextView Name() const { return texts_->pool.At(name_); }
@@ -84,6 +92,8 @@ class ElementCategory {
 class ElementsDatabase {
  public:
   static constexpr int kElementCount = 112;
+  // With this number every file begins.
+  static constexpr std::uint32_t kMagic = 0xFFE8EBDE;
   // In characters, without a terminating zero.
   static constexpr std::size_t kLongestCategoryName = 255;
   static constexpr std::size_t kLongestPropertyName = 149;

@@ -37,7 +37,7 @@ class TextEngine {
   // negative.
   void DrawText(Canvas& canvas, TextView text, int x, int y, const Rect* clip = nullptr) const;
   // Goes on at `origin` and moves it behind the text, unless nothing is drawn; x is where further lines start
-  // without a rectangle.
+  // without a rectangle, and y does not count: the origin holds the line's top.
   void DrawTextAt(Canvas& canvas, TextView text, int x, int y, const Rect* clip, TextOrigin& origin) const;
 
   // Width of the widest line and the lines' heights together; an empty text is one line high. With a

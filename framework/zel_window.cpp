@@ -45,8 +45,8 @@ ZelWindow::~ZelWindow() {
 
 // The message always names the root class: when a window is made no other class is known yet.
 void ZelWindow::ReportFailure() {
-  const Text text = WithText(u"Failed to create window: '%s'", u"ZelWindow");
-  GetDevice().Boxes().Show(shell_->MainWindow(), text, u"Error in ZelWindow", MessageIcon::kNone);
+  GetDevice().Boxes().Show(shell_->MainWindow(), u"Failed to create window: 'ZelWindow'",
+                           u"Error in ZelWindow", MessageIcon::kNone);
 }
 
 void ZelWindow::Created() {

@@ -1,12 +1,9 @@
-// Where the program's own files and the user's files are. Paths are UTF-8.
+// Where the user's files are. Paths are UTF-8.
 #pragma once
 
 #include <string>
 
 namespace orvane {
-
-// The running program's file with symbolic links resolved; empty when the system does not tell.
-std::string ExecutablePath();
 
 // The user's configuration folder, without a slash at its end: $XDG_CONFIG_HOME when that is an absolute
 // path, else ".config" in the home folder. Empty when there is no home folder either.

@@ -26,7 +26,7 @@ constexpr std::array kLoadingTexts{
     DialogText{Rect::At(10, 50, 140, 14), u"Loading...", 9, false, TextAlignment::kCentre},
 };
 
-// The about box covers the area between the title and the menu bar, where it moves itself.
+// The about box covers the area between the title and the menu bar.
 constexpr Rect kAboutRect = Rect::At(0, 26, 240, 268);
 
 constexpr DialogText AboutLine(int y, TextView text) {

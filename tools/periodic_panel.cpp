@@ -52,10 +52,6 @@ Colour ColourOf(const LetterColour (&table)[N], TextView letters, Colour otherwi
   return otherwise;
 }
 
-TextView ValueOf(const ElementProperty* property, int element) {
-  return property ? property->Value(element) : TextView();
-}
-
 // One pixel larger than the cell, so that neighbours share their border lines.
 constexpr Rect Outlined(const Rect& cell) { return {cell.left, cell.top, cell.right + 1, cell.bottom + 1}; }
 

@@ -8,25 +8,16 @@ namespace {
 
 constexpr TextView kUnit = u"wnd_periodic.";
 
-// The five fields under their names, with the current look's defaults.
-struct CurrentField {
+// The five fields of a look, current or stored, under their names.
+template <class Look>
+struct Field {
   TextView name;
-  bool PeriodicSettings::*field;
+  bool Look::*field;
 };
-constexpr CurrentField kCurrentFields[] = {
-    {u"ModeWide", &PeriodicSettings::modeWide}, {u"ColorType", &PeriodicSettings::colorType},
-    {u"ShowNum", &PeriodicSettings::showNum},   {u"ShowName", &PeriodicSettings::showName},
-    {u"ShowMass", &PeriodicSettings::showMass},
-};
-
-struct PresetField {
-  TextView name;
-  bool PeriodicPreset::*field;
-};
-constexpr PresetField kPresetFields[] = {
-    {u"ModeWide", &PeriodicPreset::modeWide}, {u"ColorType", &PeriodicPreset::colorType},
-    {u"ShowNum", &PeriodicPreset::showNum},   {u"ShowName", &PeriodicPreset::showName},
-    {u"ShowMass", &PeriodicPreset::showMass},
+template <class Look>
+constexpr Field<Look> kFields[] = {
+    {u"ModeWide", &Look::modeWide}, {u"ColorType", &Look::colorType}, {u"ShowNum", &Look::showNum},
+    {u"ShowName", &Look::showName}, {u"ShowMass", &Look::showMass},
 };
 
 // In the order ModeWide, ColorType, ShowNum, ShowName, ShowMass.
@@ -73,10 +64,10 @@ int MatchingPreset(const PeriodicPresets& presets, const PeriodicSettings& curre
 
 void ReadPeriodicSettings(ZelRegistry& registry, PeriodicSettings& current, PeriodicPresets& presets) {
   registry.Open();
-  for (const CurrentField& f : kCurrentFields)
+  for (const auto& f : kFields<PeriodicSettings>)
     current.*f.field = registry.ReadBool(CurrentName(f.name), false);
   for (std::size_t i = 0; i < presets.size(); ++i) {
-    for (const PresetField& f : kPresetFields) {
+    for (const auto& f : kFields<PeriodicPreset>) {
       presets[i].*f.field = registry.ReadBool(PresetName(i, f.name), kDefaultPresets[i].*f.field);
     }
   }
@@ -86,9 +77,10 @@ void ReadPeriodicSettings(ZelRegistry& registry, PeriodicSettings& current, Peri
 void WritePeriodicSettings(ZelRegistry& registry, const PeriodicSettings& current,
                            const PeriodicPresets& presets) {
   registry.Open();
-  for (const CurrentField& f : kCurrentFields) registry.WriteBool(CurrentName(f.name), current.*f.field);
+  for (const auto& f : kFields<PeriodicSettings>) registry.WriteBool(CurrentName(f.name), current.*f.field);
   for (std::size_t i = 0; i < presets.size(); ++i) {
-    for (const PresetField& f : kPresetFields) registry.WriteBool(PresetName(i, f.name), presets[i].*f.field);
+    for (const auto& f : kFields<PeriodicPreset>)
+      registry.WriteBool(PresetName(i, f.name), presets[i].*f.field);
   }
   registry.Close();
 }
