@@ -1,6 +1,4 @@
-# orvane_room(NAME [DEPENDS room...]) makes the static library of one folder from all its sources.
-# The DEPENDS list is the folder's row of the layer table in docs/architecture.md; a test reads the
-# #include lines against the same table.
+# orvane_flags(TARGET) gives a library or program the project's warnings, include path and sanitizers.
 function(orvane_flags target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion
                                            -Wnon-virtual-dtor -Woverloaded-virtual)
@@ -20,6 +18,9 @@ function(orvane_flags target)
   endif()
 endfunction()
 
+# orvane_room(NAME [DEPENDS room...] [EXCLUDE file...]) makes the static library of one folder from its
+# sources but the excluded ones. The DEPENDS list is the folder's row of the layer table in
+# docs/architecture.md; a test reads the #include lines against the same table.
 function(orvane_room name)
   cmake_parse_arguments(ROOM "" "" "DEPENDS;EXCLUDE" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)

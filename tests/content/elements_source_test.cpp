@@ -261,9 +261,9 @@ TEST_F(Compiler, NamesAFolderInThePlaceOfATable) {
 }
 
 TEST_F(Compiler, NamesAFileThatItCannotWrite) {
-  const ProgramResult result = RunProgram(
-      ORVANE_CONTENT_COMPILER,
-      {"elements", folder_.File("a.tsv/out.dat"), folder_.File("S.md"), folder_.File("a.tsv")});
+  const ProgramResult result =
+      RunProgram(ORVANE_CONTENT_COMPILER,
+                 {"elements", folder_.File("a.tsv/out.dat"), folder_.File("S.md"), folder_.File("a.tsv")});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.err, HasSubstr("out.dat: cannot be written"));
 }
