@@ -41,9 +41,7 @@ struct BarNotification {
 };
 
 // What WM_NOTIFY's lParam points to: null for 0.
-inline const BarNotification* NotificationOf(LParam l) {
-  return reinterpret_cast<const BarNotification*>(l);  // NOLINT(performance-no-int-to-ptr)
-}
+inline const BarNotification* NotificationOf(LParam l) { return reinterpret_cast<const BarNotification*>(l); }
 
 // A visible button as it stands on the screen.
 struct BarButtonPlace {

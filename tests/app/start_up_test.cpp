@@ -311,7 +311,7 @@ class FewerBars : public BarLayer {
   std::vector<int> refused_;
 };
 
-BedOptions Refusing(std::vector<int> flags) {
+BedOptions Refusing(const std::vector<int>& flags) {
   BedOptions options;
   options.factories.bar = [flags](Device& device) {
     return std::make_unique<FewerBars>(MakeBarLayer(device), flags);

@@ -32,7 +32,10 @@ class NotingTrace : public TraceSink {
 class MemoryHost : public Host {
  public:
   FrameBuffer Frame(int width, int height) override;
-  std::uint32_t Pixel(int x, int y) const { return pixels_[static_cast<std::size_t>(y * width_ + x)]; }
+  std::uint32_t Pixel(int x, int y) const {
+    return pixels_[static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                   static_cast<std::size_t>(x)];
+  }
 
  private:
   std::vector<std::uint32_t> pixels_;

@@ -10,8 +10,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint32_t kPosted = 0x8001;
-
 struct DeviceKeys : ThreeWindows {};
 
 // --- Key state.

@@ -8,7 +8,6 @@ namespace orvane::device_test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr Colour kMainColour = Rgb(10, 20, 30);
 constexpr Colour kRed = Rgb(200, 0, 0);

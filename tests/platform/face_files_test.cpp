@@ -31,8 +31,6 @@ class FaceFolder : public testing::Test {
     std::error_code error;
     fs::remove_all(folder_, error);
   }
-  FaceFolder(const FaceFolder&) = delete;
-  FaceFolder& operator=(const FaceFolder&) = delete;
 
   void Link(std::size_t face) {
     fs::create_symlink(FindFaceFile(face, SystemFontFolders()), folder_ / kFaces.at(face).name);
