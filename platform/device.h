@@ -103,6 +103,7 @@ class Device {
   void SetTitle(WindowHandle window, TextView title);
   Text Title(WindowHandle window) const;
   Text ClassName(WindowHandle window) const;
+  int ClassIcon(WindowHandle window) const;  // resource id, 0 without one
   WindowHandle Parent(WindowHandle window) const;
   std::vector<WindowHandle> VisibleWindows() const;  // bottom first
 

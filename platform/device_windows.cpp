@@ -137,6 +137,11 @@ Text Device::ClassName(WindowHandle window) const {
   return record == nullptr ? Text() : record->windowClass->name;
 }
 
+int Device::ClassIcon(WindowHandle window) const {
+  const Window* const record = parts_->windows.Find(window);
+  return record == nullptr ? 0 : record->windowClass->icon;
+}
+
 WindowHandle Device::Parent(WindowHandle window) const {
   const Window* const record = parts_->windows.Find(window);
   return record == nullptr ? kNoWindow : record->parent;

@@ -47,6 +47,18 @@ TEST(CleanUp, LeavesNothingOfTheProgram) {
   EXPECT_THAT(bed.App().Tools().Tools(), IsEmpty());
 }
 
+TEST(CleanUp, TakesTheSharedIconsAway) {
+  Bed bed;
+  bed.Start();
+  const auto paper = bed.TheDevice().CreateSurface({40, 40});
+  paper->GetCanvas().FillRect(Rect::At(0, 0, 40, 40), kWhite);
+  bed.Command(40016);
+  for (int icon = 1; icon <= 6; ++icon) bed.App().DrawSharedIcon(paper->GetCanvas(), 20, 20, icon);
+  for (int y = 0; y < 40; ++y) {
+    for (int x = 0; x < 40; ++x) ASSERT_EQ(paper->DevicePixel(x, y) & 0xFFFFFFu, 0xFFFFFFu);
+  }
+}
+
 // The windows go first then, but every tool object still gets its end, in which it writes its settings.
 TEST(CleanUp, AfterTheWindowWasClosedIsTheSame) {
   Bed bed;

@@ -47,6 +47,7 @@ TEST(StartUp, TheMainWindowStandsBelowTheTitleArea) {
   EXPECT_EQ(device.ScreenRect(main), Rect::At(0, 26, 240, 268));
   EXPECT_EQ(device.Title(main), u"Orvane");
   EXPECT_EQ(device.Style(main), WS_VISIBLE);
+  EXPECT_EQ(device.ClassIcon(main), 102);
   EXPECT_EQ(device.Parent(main), kNoWindow);
   EXPECT_TRUE(device.IsVisible(main));
 }
@@ -57,6 +58,17 @@ TEST(StartUp, TheMainWindowIsDarkGreyWhereNoToolCoversIt) {
   EXPECT_EQ(bed.host.PixelAt({120, 150}, 1), Rgb(64, 64, 64));
   EXPECT_EQ(bed.host.PixelAt({0, 26}, 1), Rgb(64, 64, 64));
   EXPECT_EQ(bed.host.PixelAt({239, 293}, 1), Rgb(64, 64, 64));
+}
+
+TEST(StartUp, TheMainWindowIsPaintedBeforeTheFirstToolComes) {
+  Bed bed;
+  std::optional<Rect> left;
+  bed.PartOf(ToolSlot::kPeriodic).whenShown = [&] {
+    left = bed.TheDevice().InvalidRect(bed.App().MainWindow());
+  };
+  bed.Start();
+  ASSERT_TRUE(left.has_value());
+  EXPECT_TRUE(left->Empty());
 }
 
 TEST(StartUp, EverythingIsMadeInItsOrder) {

@@ -296,6 +296,14 @@ TEST_F(ZelPanelTest, PenAndPaintMessagesAreNotPassedOn) {
   }
 }
 
+TEST_F(ZelPanelTest, ACaptureThatAHandlerHandsOnIsNotReleased) {
+  panel_->hook = [&](std::uint32_t message) {
+    if (message == PN_PENUP) GetDevice().SetCapture(tool_->Handle());
+  };
+  shell_.Tap(panel_->Handle(), {30, 40});
+  EXPECT_EQ(GetDevice().Capture(), tool_->Handle());
+}
+
 // A tap often opens another screen; the panel must come out of it in order.
 TEST_F(ZelPanelTest, AHandlerMayHideThePanelsTool) {
   MakeLarge();

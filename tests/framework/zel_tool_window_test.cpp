@@ -77,6 +77,20 @@ TEST_F(ZelToolWindowTest, APenThatGoesDownGivesTheFocusAndIsPassedOn) {
   EXPECT_TRUE(tool_->focusedThen);
 }
 
+// A tool that was made before the one in front stands below it until it is shown.
+TEST_F(ZelToolWindowTest, AnOlderToolComesToTheFrontBeforeItPaints) {
+  const auto newer = MakeWindow<PaintedTool>(shell_, shell_.MainWindow(), true);
+  newer->SetStyle(0, 0);
+  newer->Move(0, 0, 240, 268);
+  tool_->Hide();
+  newer->Show();
+  shell_.Settle();
+  tool_->painted.clear();
+  tool_->Show();
+  EXPECT_EQ(tool_->painted.size(), 1u);
+  EXPECT_EQ(GetDevice().VisibleWindows().back(), tool_->Handle());
+}
+
 TEST_F(ZelToolWindowTest, EveryOtherMessageIsPassedOn) {
   GetDevice().Send(tool_->Handle(), WM_KEYDOWN, VK_LEFT, 3);
   GetDevice().Send(tool_->Handle(), WM_COMMAND, 40017, 0);
