@@ -1,4 +1,4 @@
-// Makes the layers above the windows. Device's constructor calls these once each, in this order.
+// Makes the standard layers above the windows. A device calls each once, in this order (LayerStack::Make).
 #pragma once
 
 #include <memory>

@@ -30,13 +30,16 @@ Text FitText(TextView text, const Font& font, int width) {
   return Text(text.substr(0, kept)) + Text(kEllipsis);
 }
 
+int AlignedLeft(const Rect& rect, int width, Align align) {
+  const int spare = rect.Width() - width;
+  if (align == Align::kCentre) return rect.left + spare / 2;
+  return align == Align::kRight ? rect.left + spare : rect.left;
+}
+
 void DrawLine(Canvas& canvas, TextView text, const Rect& rect, const Font& font, Colour colour, Align align) {
   const Text shown = FitText(text, font, rect.Width());
   if (shown.empty()) return;
-  const int spare = rect.Width() - font.TextWidth(shown);
-  int x = rect.left;
-  if (align == Align::kCentre) x += spare / 2;
-  if (align == Align::kRight) x += spare;
+  const int x = AlignedLeft(rect, font.TextWidth(shown), align);
   const int baseline = rect.top + (rect.Height() + CapitalHeight(font)) / 2;
   canvas.PushClip(rect);
   canvas.DrawRun(shown, {x, baseline - font.Ascent()}, font, colour, canvas.NextTextLine());

@@ -14,6 +14,9 @@ enum class Direction { kUp, kDown, kLeft, kRight };
 // itself when it fits. Never parts a surrogate pair, whose second unit has no width.
 Text FitText(TextView text, const Font& font, int width);
 
+// The left end of what is `width` wide and stands so in the rectangle.
+int AlignedLeft(const Rect& rect, int width, Align align);
+
 // One line of text in the rectangle, centred vertically by its capitals, cut with an ellipsis where it is
 // wider.
 void DrawLine(Canvas& canvas, TextView text, const Rect& rect, const Font& font, Colour colour,
@@ -31,8 +34,7 @@ void DrawArrow(Canvas& canvas, Direction direction, Point at, int reach, Colour 
 
 void DrawTick(Canvas& canvas, Point topLeft, Colour colour);  // 9 × 7
 void DrawCross(Canvas& canvas, const Rect& rect, Colour colour, int width);
-// The sign of a message box, 24 × 24.
-inline constexpr Size kMessageSign{24, 24};
+// The sign of a message box, of kMessageSign's size.
 void DrawMessageSign(Canvas& canvas, MessageIcon icon, Point topLeft);
 
 }  // namespace orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/colour.h"
+#include "base/geometry.h"
 #include "platform/font.h"
 
 namespace orvane {
@@ -26,5 +27,7 @@ inline constexpr int kTitlePixels = 13;
 inline constexpr int kMenuPixels = 13;
 inline constexpr int kBodyPixels = 12;
 inline constexpr int kSmallPixels = 11;
+
+inline constexpr Size kMessageSign{24, 24};  // the sign of a message box
 
 }  // namespace orvane

@@ -1,24 +1,10 @@
 // Making a device, and its services that have no rules of their own.
 #include "platform/device.h"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 #include "platform/device_parts.h"
+#include "platform/device_pixels.h"
 
 namespace orvane {
-
-namespace {
-
-constexpr double kSmallestScale = 1.0;
-constexpr double kLargestScale = 16.0;
-
-double BoundedScale(double scale) {
-  return std::isnan(scale) ? kSmallestScale : std::clamp(scale, kSmallestScale, kLargestScale);
-}
-
-}  // namespace
 
 Device::Parts::Parts(Device& itself, Host& theHost, const DeviceOptions& options,
                      const DeviceFactories& factories)

@@ -3,6 +3,7 @@
 // asks the user something (a menu, a message box, a dialog) is shown and answered by a later message.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -24,6 +25,7 @@
 namespace orvane {
 
 inline constexpr Size kScreenSize{240, 320};
+inline constexpr Rect kScreenArea{0, 0, 240, 320};
 inline constexpr Rect kTitleArea{0, 0, 240, 26};
 inline constexpr Rect kClientArea{0, 26, 240, 294};
 inline constexpr Rect kBarArea{0, 294, 240, 320};
@@ -41,7 +43,6 @@ struct WindowClass {
   Text name;
   WindowProcedure procedure;
   std::optional<Colour> background;  // what the default WM_PAINT fills with
-  int icon = 0;                      // resource id, for the host's window
 };
 
 struct CreateParams {
@@ -124,6 +125,7 @@ class Device {
 
   // --- Messages.
   Result Send(WindowHandle window, std::uint32_t message, WParam w = 0, LParam l = 0);
+  // Lost when the window goes first, when the program has quit, or when ten thousand messages wait already.
   void Post(WindowHandle window, std::uint32_t message, WParam w = 0, LParam l = 0);
   Result DefaultProcedure(WindowHandle window, std::uint32_t message, WParam w, LParam l);
   void AtNextStep(std::function<void()> action);  // queued like a message, for what has no window
@@ -181,7 +183,8 @@ class Device {
   bool SetClipboardText(TextView text);  // false when the clipboard cannot be opened
   std::optional<Text> ClipboardText();
 
-  void SetMainWindow(WindowHandle window);  // gets WM_CLOSE, WM_SETTINGCHANGE; its icon is the program's
+  // Gets WM_CLOSE and WM_SETTINGCHANGE; its title is the host's.
+  void SetMainWindow(WindowHandle window);
   WindowHandle MainWindow() const;
 
   // --- The parts above the windows.

@@ -57,7 +57,7 @@ void Device::Parts::HandleKeyDown(int key, Modifiers modifiers, bool byPen) {
     return;
   }
   if (quitCode || FireAccelerator(key, modifiers)) return;
-  if (key == VK_F1 + 9 && modifiers == Modifiers{}) {
+  if (key == VK_F10 && modifiers == Modifiers{}) {
     OpenFirstMenu();
     return;
   }

@@ -18,7 +18,7 @@ bool IsWholeMove(int logical, double scale) {
 std::vector<std::pair<PlacedWindow, Area>> Device::Parts::ShownWindows() const {
   std::vector<PlacedWindow> placed = windows.Placed();
   std::vector<std::pair<PlacedWindow, Area>> shown(placed.size());
-  Area free(Rect{0, 0, kScreenSize.width, kScreenSize.height});
+  Area free(kScreenArea);
   for (std::size_t i = placed.size(); i-- > 0;) {
     shown[i] = {placed[i], free.CommonWith(placed[i].clip)};
     free.Subtract(placed[i].clip);
@@ -43,9 +43,8 @@ void Device::Parts::Paint(WindowHandle handle) {
   window->painting = true;
   window->paintClip = window->invalid;
   window->invalidAgain = {};
-  composer.Damage(
-      Intersect(window->paintClip.Offset(windows.ScreenRect(*window).left, windows.ScreenRect(*window).top),
-                windows.ClippedScreenRect(*window)));
+  const Point at = windows.ScreenRect(*window).TopLeft();
+  composer.Damage(Intersect(window->paintClip.Offset(at.x, at.y), windows.ClippedScreenRect(*window)));
   Send(handle, WM_PAINT, 0, 0);
   window = windows.Find(handle);
   if (window == nullptr) return;
@@ -111,7 +110,7 @@ void Device::ScrollWindowRect(WindowHandle window, const Rect& rect, int dx, int
   if (record == nullptr || (dx == 0 && dy == 0)) return;
   const Rect area = Intersect(rect, record->Client());
   // A move by more than the area's size leaves nothing of it; the bounds also keep the sums small.
-  const bool far = dx >= area.Width() || -dx >= area.Width() || dy >= area.Height() || -dy >= area.Height();
+  const bool far = dx >= area.Width() || dx <= -area.Width() || dy >= area.Height() || dy <= -area.Height();
   if (far || record->surface == nullptr || !IsWholeMove(dx, parts_->scale) ||
       !IsWholeMove(dy, parts_->scale)) {
     Invalidate(window, area);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -36,7 +35,6 @@ struct Device::Parts {
   void Blank(Window& window);
   void DropDescendantSurfaces(const Window& window);
   void Damage(const Window& window);  // where it and all that lies in it can be seen
-  void TitleMayDiffer();
 
   // Focus and capture (device_focus.cpp).
   void ChangeFocus(WindowHandle window);

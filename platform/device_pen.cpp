@@ -96,7 +96,7 @@ void Device::Parts::HandlePenUp(Point point) {
 
 void Device::Parts::HandleWheel(Point point, int notches, bool sideways) {
   if (Layer* const layer = layers.At(point)) {
-    layer->Wheel(point, notches);
+    if (!sideways) layer->Wheel(point, notches);  // no layer has anything to show beyond its sides
     return;
   }
   if (quitCode) return;

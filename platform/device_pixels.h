@@ -27,18 +27,23 @@ constexpr Rect MovedSafely(const Rect& r, Point by) {
 
 inline int RoundHalfUp(double v) { return static_cast<int>(std::floor(v + 0.5)); }
 
+// Device pixels a logical pixel: what a device, a surface and a host's window can have.
+inline constexpr double kLeastScale = 1.0;
+inline constexpr double kGreatestScale = 16.0;
+
+// The nearest of those scales; what is no number becomes the least.
+inline double BoundedScale(double scale) {
+  return scale >= kLeastScale ? std::min(scale, kGreatestScale) : kLeastScale;
+}
+
 class DeviceGrid {
  public:
   DeviceGrid(Size logical, double scale) : logical_(logical), scale_(scale) {}
-
-  // Scales of 1 to 16 are kept; anything else becomes the nearest of them, and what is no number becomes 1.
-  static double SafeScale(double scale) { return scale >= 1.0 ? std::min(scale, 16.0) : 1.0; }
 
   Size Logical() const { return logical_; }
   double Scale() const { return scale_; }
   int DeviceWidth() const { return DeviceLength(logical_.width); }
   int DeviceHeight() const { return DeviceLength(logical_.height); }
-  Rect DeviceBounds() const { return {0, 0, DeviceWidth(), DeviceHeight()}; }
 
   // The device pixel at which a logical pixel begins. The last logical pixel reaches up to the end of the
   // device pixels, so that at a fractional scale no strip is left that nothing could paint.

@@ -84,7 +84,7 @@ std::vector<ScreenRun> Device::VisibleRuns() const {
     sources.push_back({slot.surface.get(), slot.shown.TopLeft(), Area(slot.shown),
                        std::string(slot.layer->Name()), kNoWindow});
   }
-  Area free(Rect{0, 0, kScreenSize.width, kScreenSize.height});
+  Area free(kScreenArea);
   for (auto source = sources.rbegin(); source != sources.rend(); ++source) {
     const Rect whole = source->visible.Bounds();
     source->visible = free.CommonWith(whole);

@@ -1,4 +1,6 @@
 // From painted surfaces to the host's frame.
+#include <set>
+
 #include "platform/device_parts.h"
 
 namespace orvane {

@@ -11,9 +11,6 @@ void Device::Parts::Damage(const Window& window) {
   if (windows.IsVisible(window.handle)) composer.Damage(windows.ClippedScreenRect(window));
 }
 
-// The title area names the topmost window, so every change of what that may be ends here.
-void Device::Parts::TitleMayDiffer() { layers.TitleChanged(); }
-
 // Without a surface there is nothing right of a window any more, so all of it is invalid.
 void Device::Parts::DropDescendantSurfaces(const Window& window) {
   for (const std::vector<WindowHandle>* list : {&window.children, &window.owned}) {
@@ -39,7 +36,6 @@ void Device::Parts::Destroy(WindowHandle handle) {
   window->shown = false;
   Blank(*window);
   DropDescendantSurfaces(*window);
-  TitleMayDiffer();
   ReleaseInput(handle);
   for (WindowHandle inside = NextToDestroy(handle); inside != kNoWindow; inside = NextToDestroy(handle)) {
     Destroy(inside);
@@ -110,7 +106,6 @@ void Device::SetStyle(WindowHandle window, std::uint32_t style) {
   if (record == nullptr) return;
   parts_->windows.Restyle(*record, style);
   parts_->Damage(*record);
-  parts_->TitleMayDiffer();
 }
 
 std::uint32_t Device::Style(WindowHandle window) const {
@@ -123,7 +118,6 @@ void Device::SetTitle(WindowHandle window, TextView title) {
   Window* const record = parts_->windows.Find(window);
   if (record == nullptr || record->title == title) return;
   record->title = Text(title);
-  parts_->TitleMayDiffer();
   if (window == parts_->mainWindow) parts_->host.SetTitle(Text(title));
 }
 
@@ -162,7 +156,6 @@ void Device::ShowWindow(WindowHandle window, bool visible) {
   // A hidden window keeps no pixels: it is painted anew when it shows again.
   parts_->Blank(*record);
   parts_->DropDescendantSurfaces(*record);
-  parts_->TitleMayDiffer();
   if (!visible) parts_->ReleaseInput(window);
   Send(window, WM_SHOWWINDOW, visible ? 1 : 0);
 }
@@ -199,7 +192,6 @@ void Device::BringToTop(WindowHandle window) {
   Window* const record = parts_->windows.Find(window);
   if (record == nullptr || !parts_->windows.Raise(*record)) return;
   parts_->Damage(*record);
-  parts_->TitleMayDiffer();
 }
 
 }  // namespace orvane

@@ -162,10 +162,7 @@ void DialogArea::PaintLabel(Canvas& canvas, const DialogLabel& label) const {
   if (label.text.empty()) return;
   const FontSpec spec{label.face, PixelsFromPoints(label.points), label.bold, false, false};
   const Font& font = device_.Fonts().GetFont(spec);
-  const int spare = label.rect.Width() - font.TextWidth(label.text);
-  int x = label.rect.left;
-  if (label.align == Align::kCentre) x += spare / 2;
-  if (label.align == Align::kRight) x += spare;
+  const int x = AlignedLeft(label.rect, font.TextWidth(label.text), label.align);
   canvas.PushClip({label.rect.left, label.rect.top, label.rect.right, label.rect.bottom + font.Descent()});
   canvas.DrawRun(label.text, {x, label.rect.top}, font, label.colour, canvas.NextTextLine());
   canvas.PopClip();

@@ -30,8 +30,6 @@ class HeadlessHost : public Host {
   // Gives the device the scale that the user asked for since the last call; true when there was one.
   bool ApplyScale(Device& device);
 
-  int FrameWidth() const { return width_; }
-  int FrameHeight() const { return height_; }
   const std::vector<std::uint32_t>& Pixels() const { return pixels_; }  // row by row, 0x00RRGGBB
   // The device pixel at the centre of a logical pixel; black outside the frame.
   Colour PixelAt(Point logical, double scale) const;

@@ -1,18 +1,20 @@
 #include "platform/host_sdl.h"
 
 #include <SDL.h>
-#include <cairo.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "platform/device.h"
+#include "platform/device_pixels.h"
 #include "platform/host_sdl_input.h"
+#include "platform/pixel_ops.h"
+#include "platform/png_image.h"
 #include "platform/window_scale.h"
 
 namespace orvane {
@@ -71,53 +73,15 @@ struct CursorCloser {
 };
 using Cursor = std::unique_ptr<SDL_Cursor, CursorCloser>;
 
-struct PngReader {
-  std::span<const unsigned char> rest;
-
-  static cairo_status_t Read(void* self, unsigned char* data, unsigned int length) {
-    std::span<const unsigned char>& rest = static_cast<PngReader*>(self)->rest;
-    if (rest.size() < length) return CAIRO_STATUS_READ_ERROR;
-    std::memcpy(data, rest.data(), length);
-    rest = rest.subspan(length);
-    return CAIRO_STATUS_SUCCESS;
-  }
-};
-
-// Cairo's colours are multiplied by their alpha, the window system wants them plain.
-std::uint32_t Unmultiplied(std::uint32_t pixel) {
-  const std::uint32_t alpha = pixel >> 24;
-  if (alpha == 0) return 0;
-  std::uint32_t plain = alpha << 24;
-  for (const int shift : {0, 8, 16}) {
-    const std::uint32_t channel = (pixel >> shift) & 0xFFu;
-    plain |= std::min((channel * 255 + alpha / 2) / alpha, 255u) << shift;
-  }
-  return plain;
-}
-
 void SetIcon(SDL_Window* window, std::span<const unsigned char> png) {
-  if (png.empty()) return;
-  PngReader reader{png};
-  cairo_surface_t* image = cairo_image_surface_create_from_png_stream(PngReader::Read, &reader);
-  if (cairo_surface_status(image) == CAIRO_STATUS_SUCCESS &&
-      cairo_image_surface_get_format(image) == CAIRO_FORMAT_ARGB32) {
-    const int width = cairo_image_surface_get_width(image);
-    const int height = cairo_image_surface_get_height(image);
-    const OwnSurface icon(SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_ARGB8888));
-    for (int y = 0; icon && y < height; ++y) {
-      const unsigned char* from =
-          cairo_image_surface_get_data(image) + y * cairo_image_surface_get_stride(image);
-      auto* to = static_cast<unsigned char*>(icon->pixels) + y * icon->pitch;
-      for (int x = 0; x < width; ++x, from += 4, to += 4) {
-        std::uint32_t pixel = 0;
-        std::memcpy(&pixel, from, sizeof pixel);
-        pixel = Unmultiplied(pixel);
-        std::memcpy(to, &pixel, sizeof pixel);
-      }
-    }
-    if (icon) SDL_SetWindowIcon(window, icon.get());
-  }
-  cairo_surface_destroy(image);
+  std::optional<PixelBuffer> picture = DecodePng(png);
+  if (!picture) return;
+  for (std::uint32_t& pixel : picture->pixels)
+    pixel = Unpremultiplied(pixel);  // as the window system wants it
+  const int stride = picture->width * static_cast<int>(sizeof(std::uint32_t));
+  const OwnSurface icon(SDL_CreateRGBSurfaceWithFormatFrom(
+      picture->pixels.data(), picture->width, picture->height, 32, stride, SDL_PIXELFORMAT_ARGB8888));
+  if (icon) SDL_SetWindowIcon(window, icon.get());
 }
 
 // The video subsystem lives as long as this.

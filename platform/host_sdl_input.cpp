@@ -11,13 +11,11 @@
 namespace orvane {
 namespace {
 
-constexpr Rect kScreen = Rect::At(0, 0, kScreenSize.width, kScreenSize.height);
-
 // Far beyond any screen, yet safe to calculate with.
-constexpr double kFarthest = 10000;
+constexpr double kFarthestPixel = 10000;
 
 int LogicalCoordinate(double pixels, int origin, double scale) {
-  return static_cast<int>(std::floor(std::clamp((pixels - origin) / scale, -kFarthest, kFarthest)));
+  return static_cast<int>(std::floor(std::clamp((pixels - origin) / scale, -kFarthestPixel, kFarthestPixel)));
 }
 
 Modifiers FromDesktop(unsigned mod) {
@@ -71,7 +69,7 @@ bool DesktopInput::Handle(const SDL_Event& event) {
 }
 
 void DesktopInput::MouseDown(int button, Point at) {
-  if (penButton_ != 0 || finger_ || !kScreen.Contains(at)) return;
+  if (penButton_ != 0 || finger_ || !kScreenArea.Contains(at)) return;
   if (button != SDL_BUTTON_LEFT && button != SDL_BUTTON_RIGHT) return;
   penButton_ = button;
   SDL_CaptureMouse(SDL_TRUE);
@@ -86,7 +84,7 @@ void DesktopInput::MouseUp(int button, Point at) {
 }
 
 void DesktopInput::FingerDown(std::int64_t finger, Point at) {
-  if (penButton_ != 0 || finger_ || !kScreen.Contains(at)) return;
+  if (penButton_ != 0 || finger_ || !kScreenArea.Contains(at)) return;
   finger_ = finger;
   device_.PenDown(at, PointerKind::kTouch);
 }

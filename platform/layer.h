@@ -35,7 +35,7 @@ class Layer {
   virtual void PenDown(Point) {}
   virtual void PenMove(Point) {}
   virtual void PenUp(Point) {}
-  virtual void Wheel(Point, int /*notches*/) {}
+  virtual void Wheel(Point, int /*notches*/) {}  // up and down only; positive = away from the user
   // True when the layer used the key; the windows do not see it then.
   virtual bool KeyDown(int /*key*/, Modifiers) { return false; }
   virtual bool Character(Char) { return false; }

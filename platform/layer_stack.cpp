@@ -28,7 +28,7 @@ void LayerStack::Make(Device& device, const DeviceFactories& factories, PanelMod
 Layer* LayerStack::At(Point point) const {
   for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot) {
     Layer* const layer = slot->layer;
-    if (layer == nullptr || !layer->Visible()) continue;
+    if (!layer->Visible()) continue;
     if (layer->Modal() || layer->Bounds().Contains(point)) return layer;
   }
   return nullptr;
@@ -36,7 +36,7 @@ Layer* LayerStack::At(Point point) const {
 
 Layer* LayerStack::Modal() const {
   for (auto slot = slots_.rbegin(); slot != slots_.rend(); ++slot) {
-    if (slot->layer != nullptr && slot->layer->Visible() && slot->layer->Modal()) return slot->layer;
+    if (slot->layer->Visible() && slot->layer->Modal()) return slot->layer;
   }
   return nullptr;
 }
@@ -45,10 +45,6 @@ void LayerStack::Changed(const Layer& layer) {
   for (Slot& slot : slots_) {
     if (slot.layer == &layer) slot.changed = true;
   }
-}
-
-void LayerStack::AllChanged() {
-  for (Slot& slot : slots_) slot.changed = true;
 }
 
 void LayerStack::DropSurfaces() {
@@ -68,7 +64,6 @@ bool LayerStack::Behind() const {
 
 bool LayerStack::Pending() const {
   for (const Slot& slot : slots_) {
-    if (slot.layer == nullptr) continue;
     const Rect wanted = WantedPlace(*slot.layer);
     if (wanted != slot.shown || (slot.changed && !wanted.Empty())) return true;
   }
@@ -77,7 +72,6 @@ bool LayerStack::Pending() const {
 
 void LayerStack::Refresh(Graphics& graphics, double scale, bool recordRuns, ScreenComposer& screen) {
   for (Slot& slot : slots_) {
-    if (slot.layer == nullptr) continue;
     const Rect wanted = WantedPlace(*slot.layer);
     if (wanted != slot.shown) {
       screen.Damage(slot.shown);

@@ -12,7 +12,7 @@ namespace orvane {
 class LayerStack {
  public:
   struct Slot {
-    Layer* layer = nullptr;
+    Layer* layer = nullptr;            // never null once Make has returned
     std::unique_ptr<Surface> surface;  // only while the layer is visible
     bool changed = true;
     Rect shown;  // where the screen has it; empty while it has not
@@ -36,8 +36,6 @@ class LayerStack {
   Layer* Modal() const;  // the topmost, or null
 
   void Changed(const Layer& layer);
-  void TitleChanged() { slots_[0].changed = true; }
-  void AllChanged();
   void DropSurfaces();
   void CatchUp();  // tells every layer, bottom first
   bool Behind() const;

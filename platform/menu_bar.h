@@ -20,7 +20,8 @@ enum class ButtonStyle { kPush = 0, kSeparator = 1, kDropDown = 8, kMenu = 0x100
 inline constexpr int TBSTATE_CHECKED = 1;
 inline constexpr int TBSTATE_ENABLED = 4;
 
-// Bar flags: a bar of kBarHidden starts hidden; kBarWithoutPanelButton leaves out the input-panel button.
+// Bar flags. Every bar starts hidden, with kBarHidden or without; kBarWithoutPanelButton leaves out the
+// input-panel button.
 inline constexpr int kBarHidden = 2;
 inline constexpr int kBarWithoutPanelButton = 4;
 

@@ -1,4 +1,8 @@
 // The message box that is shown now: drawing, pen and keys around the queue.
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+#include <vector>
 
 #include "platform/box_queue.h"
 #include "platform/chrome.h"

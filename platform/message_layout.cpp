@@ -1,5 +1,7 @@
 #include "platform/message_layout.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 int MessageTextWidth(bool hasSign) {
@@ -7,9 +9,8 @@ int MessageTextWidth(bool hasSign) {
 }
 
 MessageLayout LayOutMessage(Size screen, int textHeight, bool hasSign, bool offersDismissAll) {
-  constexpr int kSignSize = 24;
   constexpr int kFixed = kBoxCaptionHeight + 3 * kBoxPadding + kBoxButtonHeight;
-  const int wanted = hasSign ? std::max(textHeight, kSignSize) : textHeight;
+  const int wanted = hasSign ? std::max(textHeight, kMessageSign.height) : textHeight;
   const int shown = std::min(wanted, kBoxTallest - kFixed);
   const int height = kFixed + shown;
 
@@ -19,7 +20,7 @@ MessageLayout LayOutMessage(Size screen, int textHeight, bool hasSign, bool offe
   const int top = kBoxCaptionHeight + kBoxPadding;
   int left = kBoxPadding;
   if (hasSign) {
-    at.sign = Rect::At(left, top, kSignSize, kSignSize);
+    at.sign = Rect::At({left, top}, kMessageSign);
     left += kBoxSignColumn;
   }
   // A text lower than the sign stands in its middle.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/geometry.h"
+#include "platform/chrome_style.h"
 
 namespace orvane {
 
@@ -9,7 +10,7 @@ inline constexpr int kBoxWidth = 228;
 inline constexpr int kBoxTallest = 308;  // a rim of the screen stays free above and below
 inline constexpr int kBoxCaptionHeight = 22;
 inline constexpr int kBoxPadding = 10;
-inline constexpr int kBoxSignColumn = 24 + 10;  // the sign and the room to its right
+inline constexpr int kBoxSignColumn = kMessageSign.width + 10;  // the sign and the room to its right
 inline constexpr int kBoxButtonHeight = 26;
 inline constexpr int kBoxOkWidth = 72;
 inline constexpr int kBoxDismissAllWidth = 96;

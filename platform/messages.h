@@ -43,7 +43,7 @@ inline constexpr std::uint32_t WM_MOUSEWHEEL = 0x020A;  // wParam: WheelParam, l
 // The menu bar's notification that a drop-down button was pressed.
 inline constexpr int TBN_DROPDOWN = -710;
 
-// Key codes of WM_KEYDOWN and GetAsyncKeyState. Letters and digits are their ASCII capitals.
+// Key codes of WM_KEYDOWN, WM_KEYUP and Device::IsKeyDown. Letters and digits are their ASCII capitals.
 inline constexpr int VK_BACK = 0x08;
 inline constexpr int VK_TAB = 0x09;
 inline constexpr int VK_RETURN = 0x0D;
@@ -64,6 +64,7 @@ inline constexpr int VK_DELETE = 0x2E;
 inline constexpr int VK_ADD = 0x6B;
 inline constexpr int VK_SUBTRACT = 0x6D;
 inline constexpr int VK_F1 = 0x70;       // F1 to F12 follow one another
+inline constexpr int VK_F10 = 0x79;      // opens the menu of the bar, as Alt alone does
 inline constexpr int VK_ACTION = 0x86;   // the hand-held's action key: Ctrl, or the right mouse button
 inline constexpr int VK_LBUTTON = 0x01;  // pen down
 

@@ -30,19 +30,10 @@ std::uint32_t BlendPremultiplied(std::uint32_t under, std::uint32_t over) {
   return (redBlue | (green << 8)) + (over & 0x00FFFFFFu);
 }
 
-std::uint32_t Unpremultiplied(std::uint32_t pixel, std::uint32_t alpha) {
-  std::uint32_t result = 0;
-  for (int shift = 0; shift < 24; shift += 8) {
-    const std::uint32_t channel = (pixel >> shift) & 0xFFu;
-    result |= std::min((channel * 255 + alpha / 2) / alpha, 255u) << shift;
-  }
-  return result;
-}
-
 std::uint32_t MaskedPixel(std::uint32_t under, std::uint32_t over, std::uint32_t mask) {
   const std::uint32_t alpha = over >> 24;
   if (alpha == 0) return under;
-  const std::uint32_t colour = alpha == 255 ? over & 0x00FFFFFFu : Unpremultiplied(over, alpha);
+  const std::uint32_t colour = Unpremultiplied(over) & 0x00FFFFFFu;
   const std::uint32_t common = under & colour;
   std::uint32_t result = 0;
   for (int shift = 0; shift < 24; shift += 8) {
@@ -63,6 +54,18 @@ void CopyRow(std::uint32_t* target, const std::uint32_t* source, const Transfer&
 }
 
 }  // namespace
+
+std::uint32_t Unpremultiplied(std::uint32_t pixel) {
+  const std::uint32_t alpha = pixel >> 24;
+  if (alpha == 0) return 0;
+  if (alpha == 255) return pixel;
+  std::uint32_t result = alpha << 24;
+  for (int shift = 0; shift < 24; shift += 8) {
+    const std::uint32_t channel = (pixel >> shift) & 0xFFu;
+    result |= std::min((channel * 255 + alpha / 2) / alpha, 255u) << shift;
+  }
+  return result;
+}
 
 void FillPixels(PixelBuffer& target, const Rect& rect, Colour colour) {
   if (rect.Empty()) return;

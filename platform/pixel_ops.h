@@ -32,6 +32,9 @@ constexpr std::uint32_t PixelOf(Colour c) {
   return (std::uint32_t{c.red} << 16) | (std::uint32_t{c.green} << 8) | c.blue;
 }
 
+// The plain colours of a premultiplied pixel, its alpha kept.
+std::uint32_t Unpremultiplied(std::uint32_t pixel);
+
 // How much of a pixel something covers, 0 to 255, row by row without padding.
 struct Coverage {
   const std::uint8_t* bytes = nullptr;

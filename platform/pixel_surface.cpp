@@ -16,7 +16,7 @@ Size SafeSize(Size size) {
 
 PixelSurface::PixelSurface(Size size, double scale, bool recordRuns,
                            std::shared_ptr<std::uint32_t> lineNumbers)
-    : grid_(SafeSize(size), DeviceGrid::SafeScale(scale)),
+    : grid_(SafeSize(size), BoundedScale(scale)),
       pixels_(grid_.DeviceWidth(), grid_.DeviceHeight()),
       runs_(recordRuns ? std::make_optional<TextRuns>() : std::nullopt),
       canvas_(grid_, pixels_, runs_ ? &*runs_ : nullptr, std::move(lineNumbers)) {}

@@ -1,6 +1,7 @@
 #include "platform/play_expect.h"
 
 #include "base/styled_text.h"
+#include "platform/front_title.h"
 #include "platform/play_report.h"
 #include "platform/play_trace.h"
 
@@ -76,7 +77,7 @@ std::string CheckExpectation(const PlayCommand& command, PlayedProgram& program,
     case Verb::kExpectTool:
       return Compare("front tool", Quoted(text), Quoted(program.FrontTool()));
     case Verb::kExpectTitle:
-      return Compare("title", Quoted(text), Quoted(ShownTitle(device)));
+      return Compare("title", Quoted(text), Quoted(FrontTitle(device)));
     case Verb::kExpectText:
       return ExpectText(device, text);
     case Verb::kExpectNoText:

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/styled_text.h"
+#include "platform/front_title.h"
 #include "platform/play_trace.h"
 
 namespace orvane {
@@ -141,7 +142,7 @@ std::string ReportLine(PlayedProgram& program) {
   const std::optional<Text> clipboard = device.ClipboardText();
   const Json report = {{"tool", program.FrontTool()},
                        {"current", program.CurrentTool()},
-                       {"title", JsonText(ShownTitle(device))},
+                       {"title", JsonText(FrontTitle(device))},
                        {"stack", Json(program.ToolStack())},
                        {"message", MessageJson(device.Boxes())},
                        {"dialog", DialogJson(device.DialogBoxes())},
@@ -156,16 +157,6 @@ std::string ReportLine(PlayedProgram& program) {
                        {"windows", WindowsJson(device)},
                        {"runs", RunsJson(device)}};
   return report.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-Text ShownTitle(const Device& device) {
-  const WindowHandle main = device.MainWindow();
-  const std::vector<WindowHandle> windows = device.VisibleWindows();
-  for (auto it = windows.rbegin(); main != kNoWindow && it != windows.rend(); ++it) {
-    if (device.Parent(*it) != main || (device.Style(*it) & WS_CHILD) != 0) continue;
-    if (Text title = device.Title(*it); !title.empty()) return title;
-  }
-  return Text(kProgramName);
 }
 
 std::vector<Text> VisibleLines(const Device& device) {

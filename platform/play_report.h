@@ -10,10 +10,6 @@ namespace orvane {
 // The state as one JSON object on one line, without the line's end.
 std::string ReportLine(PlayedProgram& program);
 
-// The title in the title area: that of the topmost visible window that the main window owns, the program's
-// name without one.
-Text ShownTitle(const Device& device);
-
 // The visible lines of text, bottom window first: the runs of each line joined without blanks.
 std::vector<Text> VisibleLines(const Device& device);
 

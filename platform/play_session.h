@@ -25,7 +25,6 @@ class PlaySession {
 
   // Steps the program until nothing is left to do or it has ended.
   void Settle();
-  void ShowWhatIsLeft();
   // Moves the clock from timer to timer, so that each fires at its own time and in order.
   void Wait(int milliseconds);
 
@@ -47,6 +46,7 @@ class PlaySession {
   void BeginTrace(const std::string& file);
 
  private:
+  void ShowWhatIsLeft();
   std::string OutPath(const std::string& file) const;
 
   const PlayOptions& options_;

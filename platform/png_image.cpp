@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <span>
+#include <utility>
 
 namespace orvane {
 namespace {
@@ -99,6 +99,16 @@ std::unique_ptr<ScaledPicture> MakePicture(const EncodedImage& encoded, double s
 }
 
 }  // namespace
+
+std::optional<PixelBuffer> DecodePng(std::span<const unsigned char> data) {
+  CairoSurface surface = Decode(data);
+  if (surface == nullptr) return std::nullopt;
+  const int width = cairo_image_surface_get_width(surface.get());
+  const int height = cairo_image_surface_get_height(surface.get());
+  surface = Fitted(std::move(surface), width, height);
+  if (surface == nullptr) return std::nullopt;
+  return PixelsOf(surface.get());
+}
 
 const ScaledPicture* PngImage::At(double scale) const {
   if (scale != triedScale_) {

@@ -1,13 +1,18 @@
-// Pictures from embedded PNG data, decoded when they are first drawn.
+// PNG data, and pictures from it that are decoded when they are first drawn.
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <span>
 
 #include "platform/canvas.h"
 #include "platform/device_pixels.h"
 #include "platform/pixel_ops.h"
 
 namespace orvane {
+
+// The pixels of a PNG picture as they are, premultiplied. Nothing when the data cannot be decoded.
+std::optional<PixelBuffer> DecodePng(std::span<const unsigned char> data);
 
 // The pixels of a picture at one scale.
 struct ScaledPicture {

@@ -1,5 +1,7 @@
 // The open pop-up menu: drawing, pen and keys around the model.
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "platform/chrome.h"
 #include "platform/chrome_drawing.h"
@@ -38,7 +40,7 @@ class PopupMenu final : public PopupLayer {
   void PenUp(Point point) override;
   void Wheel(Point point, int notches) override;
   bool KeyDown(int key, Modifiers modifiers) override;
-  bool Character(Char character) override;
+  bool Character(Char) override { return Open(); }
   bool Behind() const override { return OwnerGone(); }
   void CatchUp() override {
     if (OwnerGone()) Close();
@@ -49,6 +51,7 @@ class PopupMenu final : public PopupLayer {
   void Changed() { device_.LayerChanged(*this); }
   void PointAt(Point point);
   void Choose(int row);
+  bool EnterSubmenu();
   void ChooseByKey();
   bool NavigationKey(int key);
   void PaintRow(Canvas& canvas, int row, const Rect& rect, const Font& font) const;
@@ -63,7 +66,7 @@ class PopupMenu final : public PopupLayer {
 };
 
 void PopupMenu::Track(const Menu& menu, Point bottomLeft, WindowHandle owner) {
-  // The menu may be a copy of what Current() gave, so the new one is made before the old one goes.
+  // The menu may be Current() itself, so the new one is made before the old one goes.
   const Font& font = device_.Fonts().GetFont(TextFont(kMenuPixels));
   std::optional<PopupModel> next;
   if (menu.Count() > 0) {
@@ -112,10 +115,15 @@ void PopupMenu::Choose(int row) {
   device_.Post(owner, WM_COMMAND, PackCommand(id, 0));
 }
 
+// Opens the selected entry's sub-menu at its first row; false when the selection has none.
+bool PopupMenu::EnterSubmenu() {
+  if (model_->Selected() < 0 || !model_->Enter(model_->Selected())) return false;
+  model_->SelectEnd(false);
+  return true;
+}
+
 void PopupMenu::ChooseByKey() {
-  const bool opensSubmenu = model_->Selected() >= 0 && model_->Enter(model_->Selected());
-  if (opensSubmenu) return model_->SelectEnd(false);
-  Choose(model_->Selected());
+  if (!EnterSubmenu()) Choose(model_->Selected());
 }
 
 // --- Pen
@@ -196,15 +204,11 @@ bool PopupMenu::KeyDown(int key, Modifiers) {
     case VK_ESCAPE:
       if (!model_->Back()) Close();
       break;
-    case VK_F1 + 9:
+    case VK_F10:  // opens the bar's menu and closes it again
       Close();
-      break;  // F10 opens the bar's menu and closes it again
+      break;
     case VK_RIGHT:
-      if (model_->Selected() >= 0 && model_->Enter(model_->Selected())) {
-        model_->SelectEnd(false);
-      } else {
-        device_.Bars().StepMenu(1);
-      }
+      if (!EnterSubmenu()) device_.Bars().StepMenu(1);
       break;
     case VK_LEFT:
       if (!model_->Back()) device_.Bars().StepMenu(-1);
@@ -241,8 +245,6 @@ bool PopupMenu::NavigationKey(int key) {
       return false;
   }
 }
-
-bool PopupMenu::Character(Char) { return Open(); }
 
 // --- Drawing
 

@@ -6,24 +6,20 @@
 #include <utility>
 
 #include "platform/device.h"
+#include "platform/device_pixels.h"
+#include "platform/pixel_ops.h"
 
 namespace orvane {
 
 namespace {
 
 constexpr Colour kDesk = Rgb(64, 64, 64);
-constexpr Rect kScreenRect{0, 0, kScreenSize.width, kScreenSize.height};
 
 // Beyond this many pieces one larger rectangle is cheaper than the bookkeeping.
 constexpr std::size_t kMostPieces = 24;
 
-std::uint32_t FramePixel(Colour colour) {
-  return (static_cast<std::uint32_t>(colour.red) << 16) | (static_cast<std::uint32_t>(colour.green) << 8) |
-         colour.blue;
-}
-
 void FillFrame(const FrameBuffer& frame, const Rect& area, Colour colour) {
-  const std::uint32_t pixel = FramePixel(colour);
+  const std::uint32_t pixel = PixelOf(colour);
   for (int y = area.top; y < area.bottom; ++y) {
     std::uint32_t* const row = frame.pixels + static_cast<std::ptrdiff_t>(y) * frame.stride;
     std::fill(row + area.left, row + area.right, pixel);
@@ -70,7 +66,7 @@ void DrawItem(const ScreenItem& item, const Rect& area, double scale, Graphics& 
 
 }  // namespace
 
-int DevicePixelEdge(int logical, double scale) { return static_cast<int>(std::floor(logical * scale + 0.5)); }
+int DevicePixelEdge(int logical, double scale) { return RoundHalfUp(logical * scale); }
 
 Rect DevicePixelRect(const Rect& logical, double scale) {
   return {DevicePixelEdge(logical.left, scale), DevicePixelEdge(logical.top, scale),
@@ -78,16 +74,16 @@ Rect DevicePixelRect(const Rect& logical, double scale) {
 }
 
 void ScreenComposer::Damage(const Rect& screen) {
-  damage_.Add(Intersect(screen, kScreenRect));
+  damage_.Add(Intersect(screen, kScreenArea));
   if (damage_.Rects().size() > kMostPieces) damage_ = Area(damage_.Bounds());
 }
 
-void ScreenComposer::DamageAll() { damage_ = Area(kScreenRect); }
+void ScreenComposer::DamageAll() { damage_ = Area(kScreenArea); }
 
 void ScreenComposer::Compose(const std::vector<ScreenItem>& items, double scale, Graphics& graphics,
                              Host& host) {
   if (damage_.Empty()) return;
-  const Rect whole = DevicePixelRect(kScreenRect, scale);
+  const Rect whole = DevicePixelRect(kScreenArea, scale);
   const FrameBuffer frame = host.Frame(whole.right, whole.bottom);
   const Area logicalDamage = std::exchange(damage_, Area());
   if (frame.pixels == nullptr) return;

@@ -4,6 +4,7 @@ namespace orvane {
 namespace {
 
 bool IsPathSeparator(Char c) { return c == u'/' || c == u'\\'; }
+
 // Where the line that starts at `first` ends and where the next one starts, within one paragraph.
 struct Break {
   std::size_t last = 0;

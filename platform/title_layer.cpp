@@ -4,6 +4,7 @@
 #include "platform/chrome_drawing.h"
 #include "platform/chrome_style.h"
 #include "platform/device.h"
+#include "platform/front_title.h"
 
 namespace orvane {
 namespace {
@@ -52,29 +53,16 @@ class TitleArea final : public TitleLayer {
     if (kCloseBox.Contains(point)) device_.CloseFromOutside();
   }
 
-  bool Behind() const override { return FrontTitle() != shown_; }
+  bool Behind() const override { return FrontTitle(device_) != shown_; }
 
   void CatchUp() override {
-    Text title = FrontTitle();
+    Text title = FrontTitle(device_);
     if (title == shown_) return;
     shown_ = std::move(title);
     device_.LayerChanged(*this);
   }
 
  private:
-  // Tools are the top-level windows that the main window owns.
-  Text FrontTitle() const {
-    const WindowHandle main = device_.MainWindow();
-    if (main != kNoWindow) {
-      const std::vector<WindowHandle> windows = device_.VisibleWindows();
-      for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
-        if (device_.Parent(*it) != main || (device_.Style(*it) & WS_CHILD) != 0) continue;
-        if (Text title = device_.Title(*it); !title.empty()) return title;
-      }
-    }
-    return Text(kProgramName);
-  }
-
   Device& device_;
   Text shown_{kProgramName};
   bool armed_ = false;   // the pen went down in the close box and is still down

@@ -4,16 +4,16 @@
 #include <cmath>
 
 #include "platform/device.h"
+#include "platform/device_pixels.h"
+#include "platform/screen_composer.h"
 
 namespace orvane {
 namespace {
 
 constexpr double kComfort = 11.0 / 12.0;
 
-double Clamped(double scale) { return std::clamp(scale, kLeastScale, kGreatestScale); }
-
 double LargestWithin(double width, double height) {
-  return Clamped(std::min(width / kScreenSize.width, height / kScreenSize.height));
+  return BoundedScale(std::min(width / kScreenSize.width, height / kScreenSize.height));
 }
 
 }  // namespace
@@ -29,14 +29,11 @@ double RememberedScale(double remembered, Size desktop) {
 
 double ScaleForWindow(Size window) { return LargestWithin(window.width, window.height); }
 
-Size FrameSize(double scale) {
-  return {static_cast<int>(std::floor(kScreenSize.width * scale + 0.5)),
-          static_cast<int>(std::floor(kScreenSize.height * scale + 0.5))};
-}
+Size FrameSize(double scale) { return DevicePixelRect(kScreenArea, scale).GetSize(); }
 
 double SteppedScale(double scale, int step, double standard) {
-  if (step == 0) return Clamped(standard);
-  return Clamped(step > 0 ? std::floor(scale) + 1 : std::ceil(scale) - 1);
+  if (step == 0) return BoundedScale(standard);
+  return BoundedScale(step > 0 ? std::floor(scale) + 1 : std::ceil(scale) - 1);
 }
 
 }  // namespace orvane

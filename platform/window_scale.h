@@ -5,9 +5,6 @@
 
 namespace orvane {
 
-inline constexpr double kLeastScale = 1.0;
-inline constexpr double kGreatestScale = 16.0;
-
 // The largest whole scale at which the screen leaves some of the desktop free (a twelfth of its width and
 // height, for title bar and neighbours); at least 1.
 double ComfortableScale(Size desktop);

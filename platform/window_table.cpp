@@ -7,15 +7,14 @@ namespace orvane {
 
 namespace {
 
-constexpr int kFarthest = 32767;
-constexpr Rect kScreenRect{0, 0, kScreenSize.width, kScreenSize.height};
+constexpr int kFarthestEdge = 32767;
 
-int Bounded(int value, int low) { return std::clamp(value, low, kFarthest); }
+int Bounded(int value, int low) { return std::clamp(value, low, kFarthestEdge); }
 
 // The size of an axis from `low` to `high`, whatever the two are.
 int BoundedLength(int low, int high) {
   const std::int64_t length = static_cast<std::int64_t>(high) - low;
-  return static_cast<int>(std::clamp<std::int64_t>(length, 0, kFarthest));
+  return static_cast<int>(std::clamp<std::int64_t>(length, 0, kFarthestEdge));
 }
 
 void Erase(std::vector<WindowHandle>& list, WindowHandle window) {
@@ -25,7 +24,7 @@ void Erase(std::vector<WindowHandle>& list, WindowHandle window) {
 }  // namespace
 
 Rect BoundedWindowRect(const Rect& rect) {
-  return Rect::At(Bounded(rect.left, -kFarthest), Bounded(rect.top, -kFarthest),
+  return Rect::At(Bounded(rect.left, -kFarthestEdge), Bounded(rect.top, -kFarthestEdge),
                   BoundedLength(rect.left, rect.right), BoundedLength(rect.top, rect.bottom));
 }
 
@@ -106,7 +105,7 @@ void WindowTable::AppendStack(WindowHandle handle, std::vector<WindowHandle>& bo
 std::vector<PlacedWindow> WindowTable::Placed() const {
   std::vector<PlacedWindow> placed;
   placed.reserve(windows_.size());
-  for (const WindowHandle root : roots_) AppendPlaced(root, {0, 0}, kScreenRect, placed);
+  for (const WindowHandle root : roots_) AppendPlaced(root, {0, 0}, kScreenArea, placed);
   return placed;
 }
 
@@ -152,7 +151,7 @@ Rect WindowTable::ScreenRect(const Window& window) const {
 }
 
 Rect WindowTable::ClippedScreenRect(const Window& window) const {
-  Rect rect = Intersect(ScreenRect(window), kScreenRect);
+  Rect rect = Intersect(ScreenRect(window), kScreenArea);
   for (const Window* parent = Find(window.parent); parent != nullptr; parent = Find(parent->parent)) {
     rect = Intersect(rect, ScreenRect(*parent));
   }

@@ -119,7 +119,7 @@ class TestShell : public Shell {
                                  [this](WindowHandle window, std::uint32_t message, WParam w, LParam l) {
                                    return OnMainMessage(window, message, w, l);
                                  },
-                                 kWhite, 0});
+                                 kWhite});
     mainWindow_ = device_.CreateWindow({Text(kMainClass), u"Orvane", WS_VISIBLE, kClientArea, kNoWindow});
     device_.SetMainWindow(mainWindow_);
     mainBar_ = device_.Bars().Create(mainWindow_, kBarHidden, LoadResourceBar(kMainMenu));

@@ -36,7 +36,7 @@ TEST_F(ZelWindowTest, AChildIsAChildOfItsParent) {
 
 TEST_F(ZelWindowTest, TheClassIsRegisteredByTheFirstWindow) {
   Probe tool(shell_, shell_.MainWindow(), true);
-  EXPECT_FALSE(GetDevice().RegisterWindowClass({Text(kZelWindowClass), nullptr, {}, 0}));
+  EXPECT_FALSE(GetDevice().RegisterWindowClass({Text(kZelWindowClass), nullptr, {}}));
 }
 
 TEST_F(ZelWindowTest, TheClassHasAWhiteBackground) {
@@ -83,8 +83,7 @@ class FailedWindowTest : public ZelWindowTest {
                                      [](WindowHandle, std::uint32_t message, WParam, LParam) -> Result {
                                        return message == WM_CREATE ? -1 : 0;
                                      },
-                                     {},
-                                     0});
+                                     {}});
   }
 };
 

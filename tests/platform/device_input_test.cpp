@@ -190,6 +190,13 @@ TEST_F(DeviceInput, ALayerUnderThePointerTakesTheWheel) {
   EXPECT_THAT(dialog.told, ElementsAre("wheel -1 15,56"));
 }
 
+TEST_F(DeviceInput, ALayerStopsASidewaysWheelWithoutScrollingUpOrDown) {
+  LayerScript& dialog = ShowLayer(bed.layers.dialog, Rect::At(0, 0, 240, 100));
+  device.Wheel({15, 56}, -1, true);
+  EXPECT_THAT(dialog.told, IsEmpty());
+  EXPECT_THAT(bed.trace.messages, IsEmpty());
+}
+
 // --- Focus and activation.
 
 TEST_F(DeviceInput, FocusTellsBothWindows) {

@@ -196,12 +196,12 @@ TEST_F(DeviceKeys, ScaleKeysAskTheHostEvenUnderAModalLayer) {
 }
 
 TEST_F(DeviceKeys, F10OpensTheFirstMenuThatTheBarHas) {
-  device.KeyDown(VK_F1 + 9, {});
+  device.KeyDown(VK_F10, {});
   EXPECT_THAT(bed.layers.openedMenus, ElementsAre(1));
-  device.KeyDown(VK_F1 + 9, {.shift = true});
+  device.KeyDown(VK_F10, {.shift = true});
   EXPECT_THAT(bed.layers.openedMenus, ElementsAre(1));
   bed.layers.menuAt = -1;
-  device.KeyDown(VK_F1 + 9, {});
+  device.KeyDown(VK_F10, {});
   EXPECT_THAT(bed.layers.openedMenus, ElementsAre(1));
 }
 

@@ -253,7 +253,7 @@ TEST_F(DeviceMessages, TheWheelDoesNotPassFromAToolToItsOwner) {
 }
 
 TEST_F(DeviceMessages, AClassWithoutAProcedureHasTheDefaultOne) {
-  device.RegisterWindowClass({u"plain", nullptr, std::nullopt, 0});
+  device.RegisterWindowClass({u"plain", nullptr, std::nullopt});
   const WindowHandle plain = device.CreateWindow({u"plain", u"", WS_VISIBLE, Rect::At(0, 0, 9, 9), main});
   EXPECT_NE(plain, kNoWindow);
   EXPECT_NE(bed.Settle(), -1);

@@ -258,7 +258,9 @@ TEST_F(DeviceScroll, EverySideUncoversItsOwnStrip) {
                                           {{3, 4}, area},  // the corner's strips span it all
                                           {{100, 0}, area},
                                           {{0, -50}, area},
-                                          {{INT32_MAX, INT32_MIN}, area}};
+                                          {{INT32_MAX, INT32_MIN}, area},
+                                          {{INT32_MIN, 0}, area},
+                                          {{0, INT32_MIN}, area}};
   for (const auto& [move, uncovered] : cases) {
     bed.Settle();
     device.ScrollWindowRect(main, area, move.x, move.y);

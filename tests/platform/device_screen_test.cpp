@@ -282,28 +282,6 @@ TEST(DeviceScreen, ALayerIsPaintedWhenItChanges) {
   EXPECT_TRUE(bed.device->Quiescent());
 }
 
-TEST(DeviceScreen, WindowsWithADifferentTitleOrOrderRepaintTheTitleArea) {
-  TestBed bed;
-  const WindowHandle main = bed.Make("main", kMainRect);
-  bed.layers.title.visible = true;
-  bed.layers.title.bounds = kTitleArea;
-  bed.Settle();
-  const auto paintsAfter = [&](const std::function<void()>& change) {
-    bed.layers.title.paints = 0;
-    change();
-    bed.Settle();
-    return bed.layers.title.paints;
-  };
-  WindowHandle tool = kNoWindow;
-  EXPECT_EQ(paintsAfter([&] { tool = bed.Make("tool", Rect::At(0, 0, 9, 9), main); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.Make("other", Rect::At(0, 0, 9, 9), main); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.device->BringToTop(tool); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.device->SetTitle(tool, u"Quick plot"); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.device->ShowWindow(tool, false); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.device->DestroyWindow(tool); }), 1);
-  EXPECT_EQ(paintsAfter([&] { bed.device->Invalidate(main); }), 0);
-}
-
 TEST(DeviceScreen, LayersCatchUpInEveryStepAfterMessagesAndBeforePainting) {
   TestBed bed;
   const WindowHandle main = bed.Make("main", kMainRect);

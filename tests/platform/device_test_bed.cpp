@@ -318,7 +318,7 @@ WindowHandle TestBed::Make(const std::string& name, const Rect& rect, WindowHand
     }
     return device->DefaultProcedure(window, message, w, l);
   };
-  device->RegisterWindowClass({FromUtf8(name), procedure, colour, 0});
+  device->RegisterWindowClass({FromUtf8(name), procedure, colour});
   return device->CreateWindow({FromUtf8(name), FromUtf8(name + " title"), style, rect, parent});
 }
 

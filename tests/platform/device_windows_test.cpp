@@ -52,8 +52,8 @@ TEST(DeviceWindows, CreatingFailsWithoutClassParentOrPlace) {
 
 TEST(DeviceWindows, AClassNameIsTakenOnce) {
   TestBed bed;
-  EXPECT_TRUE(bed.device->RegisterWindowClass({u"one", nullptr, std::nullopt, 0}));
-  EXPECT_FALSE(bed.device->RegisterWindowClass({u"one", nullptr, std::nullopt, 0}));
+  EXPECT_TRUE(bed.device->RegisterWindowClass({u"one", nullptr, std::nullopt}));
+  EXPECT_FALSE(bed.device->RegisterWindowClass({u"one", nullptr, std::nullopt}));
 }
 
 TEST(DeviceWindows, OperationsOnAMissingWindowDoNothing) {

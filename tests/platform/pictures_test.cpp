@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/canvas.h"
+#include "platform/pixel_ops.h"
+#include "platform/png_image.h"
 #include "tests/platform/pixel_picture.h"
 #include "tests/platform/png_builder.h"
 
@@ -221,6 +223,32 @@ TEST_F(Pictures, ASmallerMaskLimitsTheImage) {
   const auto image = graphics_->LoadImage(picture_.Encoded());
   const auto maskImage = graphics_->LoadImage(mask.Encoded());
   ExpectAtEveryScale({4, 1}, {"r..."}, [&](Canvas& c) { c.DrawMasked(*image, *maskImage, {0, 0}); });
+}
+
+TEST(Png, DecodesToPremultipliedPixelsAndBack) {
+  const std::vector<std::uint32_t> plain{0xFF204060u, 0x80FF0040u, 0x00FFFFFFu, 0x80008000u};
+  const std::optional<PixelBuffer> picture = DecodePng(MakePng(2, plain));
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->width, 2);
+  EXPECT_EQ(picture->height, 2);
+  // 0x80 of 255 is 128 ÷ 255: FF becomes 80, 40 and 80 become 20 and 40.
+  EXPECT_EQ(picture->pixels, (std::vector<std::uint32_t>{0xFF204060u, 0x80800020u, 0, 0x80004000u}));
+  EXPECT_EQ(Unpremultiplied(picture->pixels[0]), 0xFF204060u);
+  EXPECT_EQ(Unpremultiplied(picture->pixels[1]), 0x80FF0040u);
+  EXPECT_EQ(Unpremultiplied(picture->pixels[2]), 0u);
+}
+
+TEST(Png, WithoutAlphaIsOpaque) {
+  const std::optional<PixelBuffer> picture = DecodePng(MakePng(1, {0xFF010203u}, false));
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->pixels, (std::vector<std::uint32_t>{0xFF010203u}));
+}
+
+TEST(Png, DamagedDataGivesNothing) {
+  Bytes png = MakePng(2, {0xFF204060u, 0xFF204060u});
+  png.resize(png.size() / 2);
+  EXPECT_FALSE(DecodePng(png));
+  EXPECT_FALSE(DecodePng({}));
 }
 
 }  // namespace

@@ -91,7 +91,7 @@ void FakeProgram::MakeWindows() {
     device_.RegisterWindowClass({name,
                                  [this, member](WindowHandle window, std::uint32_t message, WParam w,
                                                 LParam l) { return (this->*member)(window, message, w, l); },
-                                 Rgb(64, 64, 64), 0});
+                                 Rgb(64, 64, 64)});
   };
   add(u"FakeMain", &FakeProgram::Main);
   add(u"FakeToolWC", &FakeProgram::Tool);

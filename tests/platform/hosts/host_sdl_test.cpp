@@ -41,7 +41,7 @@ class SdlHostTest : public ::testing::Test {
                                   [this](WindowHandle window, std::uint32_t message, WParam w, LParam l) {
                                     return Procedure(window, message, w, l);
                                   },
-                                  Rgb(1, 2, 3), 0});
+                                  Rgb(1, 2, 3)});
     main_ = device_->CreateWindow({u"Main", u"Orvane", WS_VISIBLE, kClientArea, kNoWindow});
     device_->SetMainWindow(main_);
     device_->SetFocus(main_);
