@@ -79,6 +79,7 @@ void Application::HideLoadingBox() {
 bool Application::MakeMainWindow() {
   WindowClass windowClass;
   windowClass.name = Text(kMainWindowClass);
+  windowClass.icon = kApplicationIcon;
   windowClass.background = kMainBackground;
   windowClass.procedure = [this](WindowHandle window, std::uint32_t message, WParam w, LParam l) {
     return OnMainMessage(window, message, w, l);

@@ -43,6 +43,7 @@ struct WindowClass {
   Text name;
   WindowProcedure procedure;
   std::optional<Colour> background;  // what the default WM_PAINT fills with
+  int icon = 0;                      // resource id; the host gets the picture when it is made
 };
 
 struct CreateParams {
