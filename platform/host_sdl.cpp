@@ -65,7 +65,16 @@ struct SurfaceCloser {
 using OwnSurface = std::unique_ptr<SDL_Surface, SurfaceCloser>;
 
 struct WindowCloser {
-  void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+  // The key or click that ends the program has the library send its own window a word, over a connection of
+  // its own. Were the window gone before that is delivered, the window system's complaint would end the
+  // process with a wrong status: so two questions come first, whose answers are waited for.
+  void operator()(SDL_Window* window) const {
+    SDL_HideWindow(window);
+    int top = 0;
+    SDL_GetWindowBordersSize(window, &top, nullptr, nullptr, nullptr);
+    SDL_PumpEvents();
+    SDL_DestroyWindow(window);
+  }
 };
 
 struct CursorCloser {

@@ -134,7 +134,7 @@ TEST_F(DesktopWindow, HasAtTheNextStartTheSizeItWasLastUsedAt) {
     Press(window, "ctrl+minus");
     EXPECT_TRUE(ComesToBeWide(window, 240));
     Press(window, "ctrl+q");
-    EXPECT_EQ(program->Wait(), 0);
+    EXPECT_EQ(program->Wait(), 0) << program->Errors();
   }
   EXPECT_NE(testing::ReadBytes(path).find("\"shell.Scale\"=dword:00000064\n"), std::string::npos);
   {
@@ -146,7 +146,7 @@ TEST_F(DesktopWindow, HasAtTheNextStartTheSizeItWasLastUsedAt) {
     Press(window, "ctrl+plus");
     EXPECT_TRUE(ComesToBeWide(window, 720));
     Press(window, "ctrl+q");
-    EXPECT_EQ(program->Wait(), 0);
+    EXPECT_EQ(program->Wait(), 0) << program->Errors();
   }
   EXPECT_NE(testing::ReadBytes(path).find("\"shell.Scale\"=dword:0000012c\n"), std::string::npos);
 }
@@ -165,7 +165,7 @@ TEST_F(DesktopWindow, OpensItsMenuAndEndsByTheLeftButton) {
   Tool({"windowmove", "--sync", window, "0", "0"});
   Click(36, 614);  // App on the bar
   Click(36, 572);  // Exit, the entry right above it
-  EXPECT_EQ(program->Wait(), 0);
+  EXPECT_EQ(program->Wait(), 0) << program->Errors();
 }
 
 }  // namespace
