@@ -18,8 +18,8 @@ Findings CheckIndex(const FileMap& files);
 // Pages below docs/ that a source, a script or a build file names although they do not exist.
 Findings CheckMentions(const FileMap& files);
 
-// Words that have no place in a text file of this project: marks of unfinished work, references to
-// documents that are not here, paths of somebody's machine.
+// Words that have no place in a text file of this project: marks of unfinished work, paths of somebody's
+// machine.
 Findings CheckWords(const FileMap& files);
 
 }  // namespace orvane::project

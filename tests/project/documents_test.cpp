@@ -54,17 +54,15 @@ TEST(Mentions, OfPagesAreOfPagesThatExist) {
 }
 
 TEST(ForbiddenWords, AreFoundWhateverTheirCase) {
-  for (const char* line : {"// TODO: later", "Fixme", "an XXX here", "a Hack", "see The Specification",
-                           "read spec.md", "done as specified", "Part 3.1 says", "in part 12.4", "/work/main",
-                           "open(\"/tmp/x\")", "cd /home/me", "/root/x", "/Users/me", "/mnt/disk"}) {
+  for (const char* line : {"// TODO: later", "Fixme", "an XXX here", "a Hack", "open(\"/tmp/x\")",
+                           "cd /home/me", "/root/x", "/Users/me", "/mnt/disk"}) {
     EXPECT_THAT(CheckWords({{"docs/a.md", line}}), SizeIs(1)) << line;
   }
 }
 
 TEST(ForbiddenWords, AreNotSeenInsideOthers) {
   for (const char* line :
-       {"\\uXXXX", "mastodon", "hacksaw", "part 3 of 4", "a part of 2.1", "counterpart 2.1 x",
-        "framework/panel.h", "specification of types", "$build/tmp/x", "~/.config/orvane"}) {
+       {"\\uXXXX", "mastodon", "hacksaw", "framework/panel.h", "$build/tmp/x", "~/.config/orvane"}) {
     EXPECT_THAT(CheckWords({{"docs/a.md", line}}), IsEmpty()) << line;
   }
 }
