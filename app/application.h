@@ -11,6 +11,7 @@
 #include "data/elements_database.h"
 #include "data/zel_registry.h"
 #include "framework/shell.h"
+#include "framework/standard_commands.h"
 
 namespace orvane {
 
@@ -44,7 +45,6 @@ class Application : public Shell, public Navigator {
   std::optional<int> Ended() const { return ended_; }
 
   WindowHandle CurrentTool() const { return currentTool_; }
-  int HelpTopic() const { return helpTopic_; }
   const ElementsDatabase& Elements() const { return elements_; }
   // Null when the program has no such screen.
   ZelWindow* Tool(ToolSlot slot) const { return Made(slot).window.get(); }
@@ -59,6 +59,7 @@ class Application : public Shell, public Navigator {
   Bitmap& BackBuffer() override { return backBuffer_; }
   const Bitmap& SeparatorBitmap() const override { return separator_; }
   void SetHelpTopic(int page) override { helpTopic_ = page; }
+  int HelpTopic() const override { return helpTopic_; }
   void SetCurrentTool(WindowHandle tool) override { currentTool_ = tool; }
   void AddBarButton(int id, int image, int string, int state, ButtonStyle style) override;
   void RemoveAddedButtons() override;
@@ -74,6 +75,8 @@ class Application : public Shell, public Navigator {
   void SelectElement(int element) override { selectedElement_ = element; }
   int SelectedElement() const override { return selectedElement_; }
   void ShowElement(int element) override;
+  void ShowHelp(int page) override;
+  void SetUpAxis(const AxisRequest& request) override;
 
  private:
   static constexpr int kSharedIconCount = 6;
@@ -97,8 +100,8 @@ class Application : public Shell, public Navigator {
   void OnCommand(int command);
   Result ForwardDropDown(const BarNotification& notification);
   void ShowAbout();
-  void OpenHelp(int page);
-  void ShowHelp();
+  void BringBackHelp();
+  void RunStandardCommand(StandardCommand command);
   void SwitchTo(ToolSlot slot);
   void HideAllBut(const ZelWindow* kept);
 

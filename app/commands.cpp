@@ -23,6 +23,19 @@ std::optional<ToolSlot> SwitchTarget(int command) {
   }
 }
 
+std::optional<StandardCommand> StandardKeyCommand(int command) {
+  switch (command) {
+    case kCommandCopy:
+      return StandardCommand::kCopy;
+    case kCommandPaste:
+      return StandardCommand::kPaste;
+    case kCommandClose:
+      return StandardCommand::kClose;
+    default:
+      return std::nullopt;
+  }
+}
+
 std::optional<ToolSlot> NeededTool(int command) {
   switch (command) {
     case kCommandHelp:

@@ -4,26 +4,15 @@
 #include "app/application.h"
 #include "app/commands.h"
 #include "framework/resource_loader.h"
+#include "framework/wait_cursor.h"
 #include "resources/dialogs.h"
+#include "resources/help_pages.h"
 
 namespace orvane {
 
 namespace {
 
 constexpr int kFirstElement = 0;
-constexpr int kFirstHelpPage = 0;
-
-// The wait cursor for as long as it lives.
-class WaitCursor {
- public:
-  explicit WaitCursor(Device& device) : device_(device) { device_.SetWaitCursor(true); }
-  ~WaitCursor() { device_.SetWaitCursor(false); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-
- private:
-  Device& device_;
-};
 
 }  // namespace
 
@@ -55,20 +44,30 @@ Result Application::OnMainMessage(WindowHandle window, std::uint32_t message, WP
 void Application::OnCommand(int command) {
   if (command == kCommandConstants && Made(ToolSlot::kConstants).load) Made(ToolSlot::kConstants).load();
   if (const std::optional<ToolSlot> slot = SwitchTarget(command)) return SwitchTo(*slot);
+  if (const auto standard = StandardKeyCommand(command)) return RunStandardCommand(*standard);
   switch (command) {
     case kCommandAbout:
       return ShowAbout();
     case kCommandHelp:
-      return OpenHelp(helpTopic_);
+      return ShowHelp(helpTopic_);
     case kCommandExit:
       return device_.PostQuit(kExitNormal);
     case kCommandElementInfo:
       return ShowElement(selectedElement_ < 0 ? kFirstElement : selectedElement_);
     case kCommandShowHelp:
-      return ShowHelp();
+      return BringBackHelp();
     default:
       device_.Send(currentTool_, kToolCommand, static_cast<WParam>(command), kFromMenu);
   }
+}
+
+// The tool gets its own command as it would from the bar.
+void Application::RunStandardCommand(StandardCommand command) {
+  const ZelWindow* const front = stack_.Top();
+  if (!front) return;
+  const WindowHandle tool = front->Handle();
+  const Result own = device_.Send(tool, kAskStandardCommand, PackStandardCommand(command));
+  if (own != 0) device_.Send(tool, kToolCommand, static_cast<WParam>(own), kFromMenu);
 }
 
 Result Application::ForwardDropDown(const BarNotification& notification) {
@@ -81,17 +80,17 @@ void Application::ShowAbout() {
   }
 }
 
-void Application::OpenHelp(int page) {
+void Application::ShowHelp(int page) {
   const MadeTool& viewer = Made(ToolSlot::kHelpViewer);
   const WaitCursor wait(device_);
   if (viewer.openPage) viewer.openPage(page);
 }
 
 // A viewer that shows a page already only comes back; one that has shown none opens the first page.
-void Application::ShowHelp() {
+void Application::BringBackHelp() {
   const MadeTool& viewer = Made(ToolSlot::kHelpViewer);
   if (!viewer.window) return;
-  if (!viewer.hasPage || !viewer.hasPage()) return OpenHelp(kFirstHelpPage);
+  if (!viewer.hasPage || !viewer.hasPage()) return ShowHelp(kHelpWelcome);
   const WaitCursor wait(device_);
   viewer.window->Show();
 }
@@ -100,6 +99,11 @@ void Application::ShowElement(int element) {
   const MadeTool& view = Made(ToolSlot::kElement);
   const WaitCursor wait(device_);
   if (view.showElement) view.showElement(element);
+}
+
+void Application::SetUpAxis(const AxisRequest& request) {
+  const MadeTool& setup = Made(ToolSlot::kPlotSettings);
+  if (setup.setUpAxis) setup.setUpAxis(request);
 }
 
 // The chosen tool comes forward as if for the first time, even when it is the current one: its window is put

@@ -7,6 +7,7 @@
 #include "app/application.h"
 #include "app/commands.h"
 #include "framework/resource_loader.h"
+#include "framework/shell_reporter.h"
 #include "resources/dialogs.h"
 #include "resources/images.h"
 #include "resources/menus.h"
@@ -23,19 +24,6 @@ bool CanRead(const std::string& path) {
   std::error_code error;
   return !std::filesystem::is_directory(path, error) && std::ifstream(path, std::ios::binary).is_open();
 }
-
-// Passes a data file's messages on to message boxes of the main window.
-class BoxReporter : public MessageReporter {
- public:
-  BoxReporter(Device& device, WindowHandle owner) : device_(device), owner_(owner) {}
-  void Report(TextView text, TextView caption, MessageIcon icon) override {
-    device_.Boxes().Show(owner_, text, caption, icon);
-  }
-
- private:
-  Device& device_;
-  WindowHandle owner_;
-};
 
 }  // namespace
 
@@ -110,7 +98,7 @@ void Application::InitApp() {
 
 // A failure has been reported by then; the program goes on with what was loaded.
 void Application::LoadElements() {
-  BoxReporter reporter(device_, mainWindow_);
+  ShellReporter reporter(*this);
   elements_.Load(options_.dataFolder + kElementsFile, reporter);
 }
 
@@ -130,7 +118,7 @@ void Application::MakePopupBar() {
 }
 
 void Application::MakeTools() {
-  const ToolContext context{*this, elements_, *this};
+  const ToolContext context{*this, elements_, *this, options_.dataFolder};
   for (std::size_t i = 0; i < options_.tools.size(); ++i) {
     if (options_.tools[i]) tools_[i] = options_.tools[i](context);
   }
@@ -157,9 +145,12 @@ void Application::DisableAbsentScreens() {
 }
 
 void Application::SetShortcuts() {
-  device_.SetAccelerators(
-      {{VK_F1, {}, mainWindow_, kCommandHelp},
-       {'Q', {.shift = false, .control = true, .alt = false}, mainWindow_, kCommandExit}});
+  constexpr Modifiers kControl{.shift = false, .control = true, .alt = false};
+  device_.SetAccelerators({{VK_F1, {}, mainWindow_, kCommandHelp},
+                           {'Q', kControl, mainWindow_, kCommandExit},
+                           {'C', kControl, mainWindow_, kCommandCopy},
+                           {'V', kControl, mainWindow_, kCommandPaste},
+                           {VK_ESCAPE, {}, mainWindow_, kCommandClose}});
 }
 
 void Application::AfterStep() {

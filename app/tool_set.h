@@ -5,6 +5,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "data/elements_database.h"
 #include "framework/zel_window.h"
@@ -31,8 +32,9 @@ inline constexpr std::size_t kToolSlots = 10;
 // What a tool is handed when it is made.
 struct ToolContext {
   Shell& shell;
-  const ElementsDatabase& elements;
+  ElementsDatabase& elements;  // the element view marks its summary there; nobody else changes it
   Navigator& navigator;
+  const std::string& dataFolder;  // of the data files, with a slash at its end
 };
 
 // A tool with the operations by which the application reaches it beyond showing and hiding. Each is empty
@@ -42,7 +44,8 @@ struct MadeTool {
   std::function<void(int element)> showElement;  // of the element view
   std::function<void(int page)> openPage;        // of the help viewer
   std::function<bool()> hasPage;                 // of the help viewer: it has shown a page before
-  std::function<void()> load;                    // of the constants: reads their file, on the first call only
+  std::function<void(const AxisRequest& request)> setUpAxis;  // of the plot settings
+  std::function<void()> load;  // of the constants: reads their file, on the first call only
 };
 
 using ToolMaker = std::function<MadeTool(const ToolContext&)>;

@@ -1,7 +1,6 @@
 #include "cli/dump_command.h"
 
-#include "cli/json_writer.h"
-#include "cli/message_collector.h"
+#include "cli/dump_frame.h"
 #include "data/elements_database.h"
 
 namespace orvane {
@@ -60,18 +59,10 @@ void DumpPeriodic(Session& session, const std::string& path) {
   const bool loaded = elements.Load(path, messages) == 1;
 
   JsonWriter json(session.out);
-  json.BeginObject().Key("file").String(FromUtf8(path)).Key("ok").Bool(loaded);
-  json.Key("messages").BeginArray();
-  for (const MessageRun& run : messages.Runs()) {
-    for (std::size_t i = 0; i < run.count; ++i) json.String(run.text);
-  }
-  json.EndArray();
-  json.Key("data").BeginObject();
+  BeginDump(json, path, loaded, messages);
   WriteCategories(json, elements);
   WriteSpecial(json, elements);
-  json.EndObject().EndObject();
-  session.out << '\n';
-  if (!loaded) session.Fail(path + ": not a readable elements database");
+  EndDump(session, json, path, loaded, "elements database");
 }
 
 }  // namespace orvane

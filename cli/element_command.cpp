@@ -3,32 +3,14 @@
 #include <algorithm>
 
 #include "cli/json_writer.h"
-#include "cli/message_collector.h"
+#include "cli/load_elements.h"
+#include "cli/matching.h"
 #include "cli/plain_text.h"
 #include "data/element_codes.h"
 
 namespace orvane {
 
 namespace {
-
-constexpr TextView kBlanks = u" \t";
-
-TextView Trimmed(TextView text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == TextView::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-// Lower case of ASCII and Latin-1; the multiplication sign U+00D7 stands among the capitals and is none.
-Char Folded(Char c) {
-  const bool latinCapital = c >= 0x00C0 && c <= 0x00DE && c != 0x00D7;
-  return latinCapital ? static_cast<Char>(c + 32) : AsciiLower(c);
-}
-
-bool SameFolded(TextView a, TextView b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](Char x, Char y) { return Folded(x) == Folded(y); });
-}
 
 bool NameMatches(TextView name, TextView query) {
   if (SameFolded(name, query)) return true;
@@ -148,13 +130,8 @@ int FindElement(const ElementsDatabase& elements, TextView query) {
 }
 
 void ShowElements(Session& session, const std::vector<std::string>& queries, bool asJson) {
-  MessageCollector messages;
   ElementsDatabase elements;
-  const bool loaded = elements.Load(session.dataFolder + kElementsFile, messages) == 1;
-  for (const MessageRun& run : messages.Runs()) {
-    session.Fail(PlainText(run.text) + (run.count > 1 ? " (" + std::to_string(run.count) + " times)" : ""));
-  }
-  if (!loaded) return;
+  if (!LoadElements(session, elements)) return;
 
   bool first = true;
   for (const std::string& word : queries) {

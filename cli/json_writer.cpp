@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "cli/real_text.h"
+
 namespace orvane {
 
 namespace {
@@ -20,62 +22,67 @@ void AppendUnit(std::string& out, Char c) {
   }
 }
 
-std::string Quoted(TextView text) {
-  std::string out = "\"";
+void AppendQuoted(std::string& out, TextView text) {
+  out += '"';
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (IsSurrogatePairAt(text, i)) {
+    const Char c = text[i];
+    if (c >= u' ' && c < 0x7F && c != u'"' && c != u'\\') {
+      out += static_cast<char>(c);
+    } else if (IsSurrogatePairAt(text, i)) {
       out += ToUtf8(text.substr(i, 2));
       ++i;
     } else {
-      AppendUnit(out, text[i]);
+      AppendUnit(out, c);
     }
   }
-  return out + '"';
+  out += '"';
 }
+
+// A damaged file's dump can be long, and no line needs to be held whole.
+constexpr std::size_t kHeldBack = 65536;
 
 }  // namespace
 
 JsonWriter& JsonWriter::Key(std::string_view asciiName) {
   Separate();
-  out_ << '"' << asciiName << "\":";
+  written_.append(1, '"').append(asciiName).append("\":");
   afterKey_ = true;
   return *this;
 }
 
 JsonWriter& JsonWriter::String(TextView text) {
   Separate();
-  out_ << Quoted(text);
+  AppendQuoted(written_, text);
+  HandOver();
   return *this;
 }
 
-JsonWriter& JsonWriter::Number(std::int64_t value) {
-  Separate();
-  out_ << std::to_string(value);  // never grouped, whatever locale the stream has
-  return *this;
-}
+// The digits are never grouped, whatever locale the stream has.
+JsonWriter& JsonWriter::Number(std::int64_t value) { return Value(std::to_string(value)); }
+JsonWriter& JsonWriter::Digits(TextView digits) { return Value(ToUtf8(digits)); }
+JsonWriter& JsonWriter::Bool(bool value) { return Value(value ? "true" : "false"); }
+JsonWriter& JsonWriter::Null() { return Value("null"); }
 
-JsonWriter& JsonWriter::Bool(bool value) {
-  Separate();
-  out_ << (value ? "true" : "false");
-  return *this;
-}
+JsonWriter& JsonWriter::Real(double value) { return Value(RealText(value)); }
 
-JsonWriter& JsonWriter::Null() {
+JsonWriter& JsonWriter::Value(std::string_view json) {
   Separate();
-  out_ << "null";
+  written_ += json;
+  HandOver();
   return *this;
 }
 
 JsonWriter& JsonWriter::Begin(char bracket) {
   Separate();
-  out_ << bracket;
+  written_ += bracket;
   hasItems_.push_back(false);
   return *this;
 }
 
 JsonWriter& JsonWriter::End(char bracket) {
-  out_ << bracket;
+  written_ += bracket;
   hasItems_.pop_back();
+  HandOver();
   return *this;
 }
 
@@ -85,8 +92,14 @@ void JsonWriter::Separate() {
     return;
   }
   if (hasItems_.empty()) return;
-  if (hasItems_.back()) out_ << ',';
+  if (hasItems_.back()) written_ += ',';
   hasItems_.back() = true;
+}
+
+void JsonWriter::HandOver() {
+  if (!hasItems_.empty() && written_.size() < kHeldBack) return;
+  out_.write(written_.data(), static_cast<std::streamsize>(written_.size()));
+  written_.clear();
 }
 
 }  // namespace orvane

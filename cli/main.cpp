@@ -7,5 +7,6 @@
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   const std::string program = orvane::ExecutablePath(argc > 0 ? argv[0] : "");
-  return orvane::RunCalculator(argc, argv, orvane::ProgramFolder(program, '/'), std::cout, std::cerr);
+  return orvane::RunCalculator(argc, argv, orvane::ProgramFolder(program, '/'), std::cin, std::cout,
+                               std::cerr);
 }

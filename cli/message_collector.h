@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/message_reporter.h"
+#include "cli/session.h"
 
 namespace orvane {
 
@@ -25,5 +26,8 @@ class MessageCollector : public MessageReporter {
  private:
   std::vector<MessageRun> runs_;
 };
+
+// Tells a person every message as a failure, equal ones that follow each other once with their number.
+void FailWithMessages(Session& session, const MessageCollector& messages);
 
 }  // namespace orvane

@@ -1,7 +1,8 @@
-// What the commands of orvane-calc have in common: where the data files lie, where answers and errors go, and
-// the exit status.
+// What the commands of orvane-calc have in common: where the data files lie, where problems come from, where
+// answers and errors go, and the exit status.
 #pragma once
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@ inline constexpr int kWrongUsage = 2;
 
 struct Session {
   std::string dataFolder;  // ends with its separator
+  std::istream& in;
   std::ostream& out;
   std::ostream& err;
   int status = kAllAnswered;

@@ -51,6 +51,9 @@ function(orvane_tests name)
   endif()
   add_executable(test-${name} ${sources})
   orvane_flags(test-${name})
+  # What is under test keeps its optimisation; the tests themselves are built twice as fast without, and
+  # run as fast as anybody could notice.
+  target_compile_options(test-${name} PRIVATE $<IF:$<BOOL:${ORVANE_SANITIZE}>,-O0,-O1>)
   foreach(room IN LISTS T_LINK)
     target_link_libraries(test-${name} PRIVATE orvane_${room})
   endforeach()

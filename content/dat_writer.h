@@ -14,6 +14,7 @@ inline constexpr std::size_t kMaxCountedBytes = 65535;
 
 class DatWriter {
  public:
+  void Byte(unsigned value);        // its lowest eight bits
   void Long(std::uint32_t value);   // 4 bytes, low byte first
   void Short(std::uint16_t value);  // 2 bytes, low byte first
   void Bool(bool value);            // "T" or "F"
@@ -31,7 +32,6 @@ class DatWriter {
   static std::size_t EscapedSize(TextView text);
 
  private:
-  void Byte(unsigned value);
   void Escaped(Char c);
 
   std::string bytes_;

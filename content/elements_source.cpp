@@ -4,6 +4,7 @@
 
 #include "content/cell_text.h"
 #include "content/dat_writer.h"
+#include "content/table_reader.h"
 
 namespace orvane {
 
@@ -19,12 +20,9 @@ constexpr int kMassId = 2;
 constexpr int kSpecialIds = 5;  // symbol, name, atomic mass, family, block: ids 0 to 4
 
 constexpr std::size_t kFirstProperty = 2;  // behind the element's number and symbol
-constexpr std::string_view kNone = "-";
 
 const char* const kHeaderKeys[] = {"category", "id", "name", "units", "plot", "source"};
 enum HeaderRow { kCategoryRow, kIdRow, kNameRow, kUnitsRow, kPlotRow, kSourceRow, kHeaderRows };
-
-std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
 
 // A decimal number of at most five digits, or -1.
 int SmallNumber(std::string_view text) {
@@ -38,11 +36,9 @@ int SmallNumber(std::string_view text) {
 }
 
 // Reads one table into a category, reporting as it goes.
-class CategoryReader {
+class CategoryReader : private TableReader {
  public:
-  CategoryReader(const Table& table, const std::set<std::string>& sourceKeys,
-                 std::vector<TableProblem>& problems)
-      : table_(table), sourceKeys_(sourceKeys), problems_(problems) {}
+  using TableReader::TableReader;
 
   CategorySource Run() {
     if (!HeaderStands()) return {};
@@ -60,19 +56,11 @@ class CategoryReader {
   }
 
  private:
-  // `column` counts from 0, as the cells do; -1 stands for the whole line.
-  void AddAt(const TableRow& row, int column, std::string message) {
-    problems_.push_back({table_.file, row.line, column + 1, std::move(message)});
-  }
-  void Add(const TableRow& row, std::size_t column, std::string message) {
-    AddAt(row, static_cast<int>(column), std::move(message));
-  }
-
   bool HeaderStands() {
     for (std::size_t row = 0; row < kHeaderRows; ++row) {
       const std::string wanted = "expected the header line " + Quoted(kHeaderKeys[row]);
       if (row >= table_.rows.size()) {
-        problems_.push_back({table_.file, 0, 0, "the file ends too early: " + wanted});
+        Add("the file ends too early: " + wanted);
         return false;
       }
       if (table_.rows[row].cells[0] != kHeaderKeys[row]) {
@@ -83,37 +71,15 @@ class CategoryReader {
     return true;
   }
 
-  bool HasWidth(const TableRow& row, std::size_t width) {
-    if (row.cells.size() == width) return true;
-    Add(row, std::min(row.cells.size(), width),
-        std::to_string(row.cells.size()) + " columns where " + std::to_string(width) + " are due");
-    return false;
-  }
-
   void ReadCategoryName() {
     const TableRow& row = table_.rows[kCategoryRow];
     if (HasWidth(row, 2)) category_.name = FieldText(row, 1, row.cells[1], kMaxCategoryName);
   }
 
-  // The text of a name or units cell, within the field that the program keeps it in.
-  Text FieldText(const TableRow& row, std::size_t column, std::string_view cell, std::size_t limit) {
-    CellText parsed = ParseCellText(cell);
-    if (!parsed.problem.empty()) {
-      Add(row, column, parsed.problem);
-      return {};
-    }
-    if (parsed.text.empty()) Add(row, column, "an empty text");
-    if (parsed.text.size() > limit) {
-      Add(row, column,
-          std::to_string(parsed.text.size()) + " characters where at most " + std::to_string(limit) + " fit");
-    }
-    return parsed.text;
-  }
-
   void ReadHeaderRow(HeaderRow which) {
     const TableRow& row = table_.rows[which];
     if (!HasWidth(row, width_)) return;
-    if (row.cells[1] != kNone) Add(row, 1, "expected - above the symbols");
+    if (row.cells[1] != kNoValue) Add(row, 1, "expected - above the symbols");
     for (std::size_t column = kFirstProperty; column < width_; ++column) {
       PropertySource& property = category_.properties[column - kFirstProperty];
       if (which == kIdRow) ReadId(row, column, property);
@@ -142,7 +108,7 @@ class CategoryReader {
 
   void ReadUnits(const TableRow& row, std::size_t column, PropertySource& property) {
     const std::string_view cell = row.cells[column];
-    if (cell == kNone) return;
+    if (cell == kNoValue) return;
     if (cell.size() < 2 || cell.front() != '"' || cell.back() != '"') {
       return Add(row, column, "units stand in double quotes, \" pm\", or are -");
     }
@@ -161,13 +127,9 @@ class CategoryReader {
 
   void ReadSource(const TableRow& row, std::size_t column, PropertySource& property) {
     const std::string& cell = row.cells[column];
-    if (cell == kNone) return;
+    if (cell == kNoValue) return;
     property.source = cell;
     CheckSourceKey(row, column, cell);
-  }
-
-  void CheckSourceKey(const TableRow& row, std::size_t column, const std::string& key) {
-    if (sourceKeys_.count(key) == 0) Add(row, column, "no source " + Quoted(key) + " is described");
   }
 
   void ReadElementRow(const TableRow& row) {
@@ -186,23 +148,10 @@ class CategoryReader {
     }
   }
 
-  bool NotBlankEdged(const TableRow& row, std::size_t column) {
-    const std::string& cell = row.cells[column];
-    if (cell.empty()) {
-      Add(row, column, "an empty cell (write - for no value)");
-      return false;
-    }
-    if (cell.front() == ' ' || cell.back() == ' ') {
-      Add(row, column, "a blank at the edge of a cell");
-      return false;
-    }
-    return true;
-  }
-
   void ReadValue(const TableRow& row, std::size_t column, std::size_t slot, PropertySource& property) {
     if (!NotBlankEdged(row, column)) return;
     std::string_view cell = row.cells[column];
-    if (cell == kNone) return;
+    if (cell == kNoValue) return;
     const std::size_t mark = cell.rfind(" @");
     if (mark != std::string_view::npos) {
       property.valueSources[slot] = std::string(cell.substr(mark + 2));
@@ -232,13 +181,10 @@ class CategoryReader {
   void ReportMissingElements() {
     for (std::size_t slot = 0; slot < seen_.size(); ++slot) {
       if (seen_[slot]) continue;
-      problems_.push_back({table_.file, 0, 0, "no row for element " + std::to_string(slot + 1)});
+      Add("no row for element " + std::to_string(slot + 1));
     }
   }
 
-  const Table& table_;
-  const std::set<std::string>& sourceKeys_;
-  std::vector<TableProblem>& problems_;
   CategorySource category_;
   std::size_t width_ = 0;
   std::array<bool, kSourceElements> seen_{};
@@ -307,18 +253,6 @@ ElementsSource ReadElements(const std::vector<Table>& tables, const std::set<std
   CheckIds(tables, source, problems);
   CheckSymbols(tables, source, problems);
   return source;
-}
-
-std::set<std::string> ReadSourceKeys(std::string_view markdown) {
-  constexpr std::string_view kHeading = "## ";
-  std::set<std::string> keys;
-  while (!markdown.empty()) {
-    const std::size_t end = std::min(markdown.find('\n'), markdown.size());
-    const std::string_view line = markdown.substr(0, end);
-    if (line.substr(0, kHeading.size()) == kHeading) keys.emplace(line.substr(kHeading.size()));
-    markdown.remove_prefix(std::min(end + 1, markdown.size()));
-  }
-  return keys;
 }
 
 bool IsBareDecimal(TextView text) {

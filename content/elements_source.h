@@ -40,9 +40,6 @@ struct ElementsSource {
 ElementsSource ReadElements(const std::vector<Table>& tables, const std::set<std::string>& sourceKeys,
                             std::vector<TableProblem>& problems);
 
-// The keys of SOURCES.md: the words of its second-level headings.
-std::set<std::string> ReadSourceKeys(std::string_view markdown);
-
 // True for a bare decimal: digits without a leading zero, and perhaps a point with digits behind it. The
 // plot's reader takes any digit of a value for a part of the number, so nothing else may stand there.
 bool IsBareDecimal(TextView text);

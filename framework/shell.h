@@ -31,6 +31,7 @@ class Shell {
 
   // The page that App > Help opens; 0 when the current tool has none.
   virtual void SetHelpTopic(int page) = 0;
+  virtual int HelpTopic() const = 0;
   // The window that gets the commands which are not the main window's own.
   virtual void SetCurrentTool(WindowHandle tool) = 0;
 

@@ -163,7 +163,9 @@ void ZelPanel::OnPenDown(Point point) {
   GetDevice().SetCapture(Handle());
 }
 
+// A panel that was hidden during a stroke has lost the pen, and with it the stroke.
 void ZelPanel::OnPenMove(Point point) {
+  stroke_ = stroke_ && GetDevice().Capture() == Handle();
   if (!stroke_) return;
   penCurrent = point;
   OnMessage(PN_PENMOVE, 0, 0);
@@ -193,8 +195,9 @@ void ZelPanel::ScrollByPen() {
 
 // A pen that went down elsewhere and is lifted here is no stroke of this panel.
 void ZelPanel::OnPenUp(Point point) {
-  if (!stroke_) return;
+  const bool own = stroke_ && GetDevice().Capture() == Handle();
   stroke_ = false;
+  if (!own) return;
   penCurrent = point;
   OnMessage(PN_PENUP, 0, 0);
   OnMessage(dragging ? PN_DRAGEND : PN_TAP, 0, 0);

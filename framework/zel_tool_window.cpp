@@ -17,6 +17,21 @@ Result ZelToolWindow::WndProc(WindowHandle, std::uint32_t message, WParam w, LPa
   return OnMessage(message, w, l);
 }
 
+Result ZelToolWindow::OnMessage(std::uint32_t message, WParam w, LParam l) {
+  switch (message) {
+    case WM_COMMAND:
+      if (CommandCode(w) == 0) OnCommand(CommandId(w));
+      return 0;
+    case kToolCommand:
+      OnCommand(static_cast<int>(w));
+      return 0;
+    default:
+      return ZelWindow::OnMessage(message, w, l);
+  }
+}
+
+void ZelToolWindow::OnCommand(int) {}
+
 void ZelToolWindow::PaintThroughBackBuffer() {
   Bitmap& buffer = GetShell().BackBuffer();
   const Size size = ClientSize();

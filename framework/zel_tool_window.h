@@ -13,8 +13,13 @@ class ZelToolWindow : public ZelWindow {
   // OnMessage. A drop-down button of the tool's own menu bar arrives there as kToolCommand (id,
   // kFromDropDown).
   Result WndProc(WindowHandle window, std::uint32_t message, WParam w, LParam l) override;
+  // Hands commands to OnCommand.
+  Result OnMessage(std::uint32_t message, WParam w, LParam l) override;
 
  protected:
+  // A command for the tool: from a menu, from a button of either bar or its drop-down, or by key. A
+  // notification of a child (WM_COMMAND with a code) is none.
+  virtual void OnCommand(int command);
   // Draws the client area, (0, 0) to (width, height), into the back buffer.
   virtual void Paint(Canvas& canvas, int width, int height) = 0;
 

@@ -6,7 +6,6 @@
 #include <cmath>
 #include <memory>
 #include <optional>
-#include <utility>
 
 namespace orvane {
 namespace {
@@ -88,35 +87,6 @@ void AddRoundBox(cairo_t* cairo, double left, double top, double right, double b
   cairo_close_path(cairo);
 }
 
-// Cuts one side of a segment: what stays has position + t × direction >= bound for all t of [t0, t1].
-bool CutSide(double position, double direction, double bound, double& t0, double& t1) {
-  if (direction == 0) return position >= bound;
-  const double t = (bound - position) / direction;
-  if (direction > 0) {
-    t0 = std::max(t0, t);
-  } else {
-    t1 = std::min(t1, t);
-  }
-  return t0 <= t1;
-}
-
-// The part of a segment within `margin` of the clip (Liang and Barsky's method), so that a segment that
-// reaches far out keeps its slope.
-std::optional<std::pair<DevicePoint, DevicePoint>> NearPart(DevicePoint a, DevicePoint b, const Rect& clip,
-                                                            double margin) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
-  double t0 = 0;
-  double t1 = 1;
-  if (!CutSide(a.x, dx, clip.left - margin, t0, t1) || !CutSide(-a.x, -dx, -(clip.right + margin), t0, t1) ||
-      !CutSide(a.y, dy, clip.top - margin, t0, t1) || !CutSide(-a.y, -dy, -(clip.bottom + margin), t0, t1)) {
-    return std::nullopt;
-  }
-  const DevicePoint from = t0 > 0 ? DevicePoint{a.x + dx * t0, a.y + dy * t0} : a;
-  const DevicePoint to = t1 < 1 ? DevicePoint{a.x + dx * t1, a.y + dy * t1} : b;
-  return std::pair{from, to};
-}
-
 }  // namespace
 
 void FillRoundBox(PixelBuffer& target, const Rect& clip, const Rect& box, double radiusX, double radiusY,
@@ -146,17 +116,19 @@ void StrokePath(PixelBuffer& target, const Rect& clip, std::span<const DevicePoi
   ShapePainter painter(area);
   cairo_set_line_width(painter.Get(), width);
   cairo_set_line_join(painter.Get(), CAIRO_LINE_JOIN_ROUND);
+  const double reach = 2 * width + kReach;
+  const RealBox near{area.left - reach, area.top - reach, area.right + reach, area.bottom + reach};
   bool joined = false;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    const auto part = NearPart(points[i - 1], points[i], area, 2 * width + kReach);
+    const std::optional<Segment> part = CutSegment({points[i - 1], points[i]}, near);
     if (!part) {
       joined = false;
       continue;
     }
-    if (!joined) cairo_move_to(painter.Get(), part->first.x, part->first.y);
-    cairo_line_to(painter.Get(), part->second.x, part->second.y);
+    if (!joined) cairo_move_to(painter.Get(), part->from.x, part->from.y);
+    cairo_line_to(painter.Get(), part->to.x, part->to.y);
     // A segment whose end was cut off does not meet the next one inside the clip.
-    joined = part->second.x == points[i].x && part->second.y == points[i].y;
+    joined = part->to == points[i];
   }
   cairo_stroke(painter.Get());
   painter.Blend(target, clip, colour);

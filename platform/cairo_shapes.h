@@ -6,14 +6,12 @@
 
 #include "base/colour.h"
 #include "base/geometry.h"
+#include "base/segment.h"
 #include "platform/pixel_ops.h"
 
 namespace orvane {
 
-struct DevicePoint {
-  double x = 0;
-  double y = 0;
-};
+using DevicePoint = RealPoint;
 
 // Corners are quarters of an ellipse with these radii, at most half the sides.
 void FillRoundBox(PixelBuffer& target, const Rect& clip, const Rect& box, double radiusX, double radiusY,

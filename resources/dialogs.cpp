@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "resources/contact.h"
 #include "resources/images.h"
 
 namespace orvane {
@@ -39,8 +40,8 @@ constexpr std::array kAboutTexts{
     AboutLine(94, kLine44),
     AboutLine(115, u"Made by the Orvane developers"),
     AboutLine(128, kLine44),
-    AboutLine(149, u"Problems and comments are"),
-    AboutLine(164, u"welcome on the project's issue page."),
+    AboutLine(149, u"Problems and comments welcome at"),
+    AboutLine(164, kContactAddress),
     AboutLine(186, u"Free software, distributed under the"),
     AboutLine(201, u"MIT licence from the project's page."),
 };

@@ -1,6 +1,8 @@
 // How a screen asks for another one. The application implements it; screens never know each other.
 #pragma once
 
+#include "tools/axis_setup.h"
+
 namespace orvane {
 
 class Navigator {
@@ -12,6 +14,10 @@ class Navigator {
   virtual int SelectedElement() const = 0;
   // Opens the element properties view on the element with this index.
   virtual void ShowElement(int element) = 0;
+  // Opens a page of the manual (resources/help_pages.h) in the help viewer.
+  virtual void ShowHelp(int page) = 0;
+  // Opens the setup of one of the plot's axes; its answer goes to the request's `accept`.
+  virtual void SetUpAxis(const AxisRequest& request) = 0;
 };
 
 }  // namespace orvane

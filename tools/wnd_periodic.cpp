@@ -57,12 +57,6 @@ Result wnd_periodic::OnMessage(std::uint32_t message, WParam w, LParam l) {
       GetDevice().SetFocus(panel_ ? panel_->Handle() : kNoWindow);
       GetShell().SetCurrentTool(Handle());
       return 0;
-    case WM_COMMAND:
-      if (CommandCode(w) == 0) OnCommand(CommandId(w));
-      return 0;
-    case kToolCommand:
-      OnCommand(static_cast<int>(w));
-      return 0;
     case WM_LBUTTONDOWN:
       GetDevice().SetFocus(Handle());
       return 0;

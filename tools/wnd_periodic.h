@@ -25,10 +25,10 @@ class wnd_periodic : public ZelToolWindow {
  protected:
   // ZelToolWindow: the panel covers the whole tool.
   void Paint(Canvas& canvas, int width, int height) override;
+  void OnCommand(int command) override;
 
  private:
   void OnBeforeShow();
-  void OnCommand(int command);
   void OpenSizeMenu();
   void OpenShowMenu();
   void OpenPresetsMenu();

@@ -61,6 +61,8 @@ Result StandIn::OnMessage(std::uint32_t message, WParam w, LParam l) {
     case kToolCommand:
       log_.push_back("command " + name_ + ' ' + std::to_string(w) + ' ' + std::to_string(l));
       return 0;
+    case kAskStandardCommand:
+      return part_.standard ? part_.standard(StandardCommandOf(w)) : 0;
     case WM_SETTINGCHANGE:
       log_.push_back("setting " + name_ + ' ' + std::to_string(w) + ' ' + std::to_string(l));
       return part_.settingResult;

@@ -30,9 +30,10 @@ std::string NameOf(ToolSlot slot);
 
 // What a stand-in does when it comes forward.
 struct Part {
-  int topic = 0;             // 0: it sets none
-  std::vector<int> buttons;  // it adds these to the main bar
-  Result settingResult = 0;  // its answer to WM_SETTINGCHANGE
+  int topic = 0;                                      // 0: it sets none
+  std::vector<int> buttons;                           // it adds these to the main bar
+  Result settingResult = 0;                           // its answer to WM_SETTINGCHANGE
+  std::function<Result(StandardCommand)> standard{};  // its commands for the desktop's keys
   std::function<void()> whenShown;
 };
 

@@ -296,6 +296,73 @@ TEST(Shortcuts, ControlQLeaves) {
   EXPECT_EQ(bed.App().Ended(), 0);
 }
 
+// Without what the screen showed in between.
+Log CommandsOf(const Log& log) {
+  Log commands;
+  for (const std::string& line : log) {
+    if (line.rfind("command ", 0) == 0) commands.push_back(line);
+  }
+  return commands;
+}
+
+TEST(StandardKeys, RunTheCommandsOfTheToolInFront) {
+  Bed bed;
+  bed.PartOf(ToolSlot::kMass).standard = [](StandardCommand command) -> Result {
+    return command == StandardCommand::kCopy ? 8820 : command == StandardCommand::kPaste ? 8821 : 0;
+  };
+  bed.PartOf(ToolSlot::kElement).standard = [](StandardCommand command) -> Result {
+    return command == StandardCommand::kClose ? 8350 : command == StandardCommand::kCopy ? 40186 : 0;
+  };
+  bed.Start();
+  bed.Command(40007);
+  bed.log.clear();
+  bed.Key('C', kControl);
+  bed.Key('V', kControl);
+  EXPECT_EQ(CommandsOf(bed.log), (Log{"command wnd_mass 8820 0", "command wnd_mass 8821 0"}));
+  bed.Tool(ToolSlot::kElement).Show();
+  bed.log.clear();
+  bed.Key('C', kControl);
+  bed.Key(VK_ESCAPE);
+  EXPECT_EQ(CommandsOf(bed.log), (Log{"command wnd_element 40186 0", "command wnd_element 8350 0"}));
+}
+
+TEST(StandardKeys, DoNothingInAToolThatHasNoSuchCommand) {
+  Bed bed;
+  bed.Start();
+  bed.Command(40011);
+  bed.log.clear();
+  bed.Key('C', kControl);
+  bed.Key('V', kControl);
+  bed.Key(VK_ESCAPE);
+  EXPECT_EQ(CommandsOf(bed.log), Log{});
+  for (ZelWindow* tool : std::vector<ZelWindow*>(bed.App().Tools().Tools())) tool->HideOnly();
+  bed.log.clear();
+  bed.Key(VK_ESCAPE);
+  EXPECT_EQ(CommandsOf(bed.log), Log{});
+}
+
+// Escape closes the menu that is open; only the next one is for the tool.
+TEST(StandardKeys, WaitForAnOpenMenuOrMessageBox) {
+  Bed bed;
+  bed.PartOf(ToolSlot::kElement).standard = [](StandardCommand) -> Result { return 8350; };
+  bed.Start();
+  bed.Tool(ToolSlot::kElement).Show();
+  bed.Tap({18, 307});  // App on the bar
+  ASSERT_TRUE(bed.TheDevice().Popups().Open());
+  bed.log.clear();
+  bed.Key(VK_ESCAPE);
+  EXPECT_FALSE(bed.TheDevice().Popups().Open());
+  EXPECT_EQ(CommandsOf(bed.log), Log{});
+  bed.App().Tell(u"Wait.", MessageIcon::kInformation);
+  bed.Settle();
+  bed.log.clear();
+  bed.Key('C', kControl);
+  EXPECT_EQ(CommandsOf(bed.log), Log{});
+  bed.TheDevice().Boxes().DismissAll();
+  bed.Key(VK_ESCAPE);
+  EXPECT_EQ(CommandsOf(bed.log), (Log{"command wnd_element 8350 0"}));
+}
+
 TEST(Shortcuts, AMessageBoxOrTheAboutBoxTakesTheKeys) {
   Bed bed;
   bed.Start();

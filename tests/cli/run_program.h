@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -23,11 +24,14 @@ inline std::string ShellQuoted(const std::string& word) {
   return out + "'";
 }
 
-inline ProgramResult RunProgram(const std::string& program, const std::vector<std::string>& words) {
+inline ProgramResult RunProgram(const std::string& program, const std::vector<std::string>& words,
+                                const std::string& input = {}) {
   const TempFolder folder;
+  std::ofstream(folder.File("in"), std::ios::binary) << input;
   std::string line = ShellQuoted(program);
   for (const std::string& word : words) line += " " + ShellQuoted(word);
-  line += " >" + ShellQuoted(folder.File("out")) + " 2>" + ShellQuoted(folder.File("err")) + " </dev/null";
+  line += " >" + ShellQuoted(folder.File("out")) + " 2>" + ShellQuoted(folder.File("err")) + " <" +
+          ShellQuoted(folder.File("in"));
   const int status = std::system(line.c_str());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadBytes(folder.File("out")),
           ReadBytes(folder.File("err"))};

@@ -1,4 +1,5 @@
 #include "content/elements_source.h"
+#include "content/table_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -187,8 +188,18 @@ TEST(ElementsSource, SkipsNotesAndEmptyLines) {
 }
 
 TEST(ElementsSource, ReadsKeysFromHeadings) {
-  EXPECT_THAT(ReadSourceKeys("# Title\n\n## one\n\ntext ## no\n### deeper\n## two"),
+  std::vector<TableProblem> problems;
+  EXPECT_THAT(ReadSourceKeys("S.md", "# Title\n\n## one\n\ntext ## no\n### deeper\n## two", problems),
               ::testing::UnorderedElementsAre("one", "two"));
+  EXPECT_THAT(problems, IsEmpty());
+}
+
+TEST(ElementsSource, RefusesASourceThatIsDescribedTwice) {
+  std::vector<TableProblem> problems;
+  EXPECT_THAT(ReadSourceKeys("S.md", "## one\n## two\n\n## one\n", problems),
+              ::testing::UnorderedElementsAre("one", "two"));
+  ASSERT_EQ(problems.size(), 1u);
+  EXPECT_EQ(ProblemText(problems[0]), "S.md:4: \"one\" has a heading already");
 }
 
 TEST(PlottableValue, IsABareDecimal) {

@@ -3,12 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 
 #include "content/cell_text.h"
 #include "content/elements_source.h"
+#include "content/table_reader.h"
 #include "data/elements_database.h"
+#include "tests/content/content_tables.h"
+#include "tests/content/expected_properties.h"
 #include "tests/content/table_builder.h"
 #include "tests/data/collecting_reporter.h"
 #include "tests/data/temp_folder.h"
@@ -54,18 +56,9 @@ TEST(RoundTrip, LoadsTheBuiltFileAsTheTablesSay) {
   ASSERT_EQ(database.Load(ORVANE_BIN_DIR "/periodic.dat", reporter), 1);
   ASSERT_THAT(reporter.texts, ::testing::IsEmpty());
 
-  const std::filesystem::path content = ORVANE_SOURCE_DIR "/content";
-  std::vector<std::string> paths;
-  for (const auto& entry : std::filesystem::directory_iterator(content / "elements")) {
-    if (entry.path().extension() == ".tsv") paths.push_back(entry.path().string());
-  }
-  std::sort(paths.begin(), paths.end());
-  std::vector<Table> tables;
-  for (const std::string& path : paths) tables.push_back(ReadTable(path, ReadBytes(path)));
-  const std::string sources = ReadBytes((content / "SOURCES.md").string());
-  std::vector<TableProblem> problems;
-  const ElementsSource source = ReadElements(tables, ReadSourceKeys(sources), problems);
-  ASSERT_THAT(problems, ::testing::IsEmpty());
+  const ContentTables tables = LoadContentTables();
+  ASSERT_THAT(tables.problems, ::testing::IsEmpty());
+  const ElementsSource& source = tables.source;
 
   ASSERT_EQ(source.categories.size(), database.Categories().size());
   for (std::size_t c = 0; c < source.categories.size(); ++c) {
@@ -87,14 +80,19 @@ TEST(RoundTrip, LoadsTheBuiltFileAsTheTablesSay) {
   }
 }
 
-// A table's number is its category's position.
+// A table's number is its category's position, and its file has the category's name.
 TEST(ElementsTables, AreNumberedInOrder) {
+  std::vector<std::string> expected;
+  for (const char* category : kExpectedCategories) {
+    std::string name = std::to_string(expected.size()) + "_" + category + ".tsv";
+    for (char& c : name) c = c == ' ' ? '_' : static_cast<char>(AsciiLower(static_cast<unsigned char>(c)));
+    expected.push_back(name);
+  }
   std::vector<std::string> names;
   for (const auto& entry : std::filesystem::directory_iterator(ORVANE_SOURCE_DIR "/content/elements")) {
     names.push_back(entry.path().filename().string());
   }
-  std::sort(names.begin(), names.end());
-  EXPECT_THAT(names, ::testing::ElementsAre("0_identification.tsv", "1_general.tsv", "2_atomic.tsv"));
+  EXPECT_THAT(names, ::testing::UnorderedElementsAreArray(expected));
 }
 
 }  // namespace

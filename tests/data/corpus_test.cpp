@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "fuzz/constants_entry.h"
+#include "fuzz/help_entry.h"
 #include "fuzz/periodic_entry.h"
 #include "fuzz/settings_entry.h"
 #include "tests/data/temp_folder.h"
@@ -26,6 +28,22 @@ TEST(CorpusTest, ElementsDatabases) {
   for (const std::string& file : CorpusOf("fuzz_periodic")) {
     SCOPED_TRACE(file);
     fuzz::CheckPeriodic(testing::ReadBytes(file), folder.File("periodic.dat"));
+  }
+}
+
+TEST(CorpusTest, ConstantsFiles) {
+  testing::TempFolder folder;
+  for (const std::string& file : CorpusOf("fuzz_constants")) {
+    SCOPED_TRACE(file);
+    fuzz::CheckConstants(testing::ReadBytes(file), folder.File("constants.dat"));
+  }
+}
+
+TEST(CorpusTest, HelpFiles) {
+  testing::TempFolder folder;
+  for (const std::string& file : CorpusOf("fuzz_help")) {
+    SCOPED_TRACE(file);
+    fuzz::CheckHelp(testing::ReadBytes(file), folder.File("help.dat"));
   }
 }
 

@@ -139,6 +139,7 @@ class TestShell : public Shell {
   Bitmap& BackBuffer() override { return backBuffer_; }
   const Bitmap& SeparatorBitmap() const override { return separator_; }
   void SetHelpTopic(int page) override { helpTopic = page; }
+  int HelpTopic() const override { return helpTopic; }
   void SetCurrentTool(WindowHandle tool) override { currentTool = tool; }
   void AddBarButton(int id, int image, int string, int state, ButtonStyle style) override {
     buttons.push_back({id, image, string, state, style});

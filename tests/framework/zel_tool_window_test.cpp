@@ -20,6 +20,7 @@ class PaintedTool : public ZelToolWindow {
 
   std::vector<Dispatched> seen;
   std::vector<Size> painted;
+  std::vector<int> commands;
   const Canvas* paintedOn = nullptr;
   bool focusedThen = false;
 
@@ -30,6 +31,7 @@ class PaintedTool : public ZelToolWindow {
     canvas.FillRect({0, 0, width, height}, Rgb(0, 121, 255));
     canvas.FillRect({width - 1, height - 1, width, height}, Rgb(255, 0, 0));
   }
+  void OnCommand(int command) override { commands.push_back(command); }
 };
 
 class ZelToolWindowTest : public ZelWindowTest {
@@ -44,6 +46,14 @@ class ZelToolWindowTest : public ZelWindowTest {
 
   std::unique_ptr<PaintedTool> tool_;
 };
+
+TEST_F(ZelToolWindowTest, GetsCommandsOfMenusAndBarsButNotWhatItsChildrenTell) {
+  EXPECT_EQ(GetDevice().Send(tool_->Handle(), WM_COMMAND, PackCommand(8820, 0), 0), 0);
+  EXPECT_EQ(GetDevice().Send(tool_->Handle(), WM_COMMAND, PackCommand(8821, 1), 0), 0);
+  EXPECT_EQ(GetDevice().Send(tool_->Handle(), kToolCommand, 8822, kFromMenu), 0);
+  EXPECT_EQ(GetDevice().Send(tool_->Handle(), kToolCommand, 8823, kFromDropDown), 0);
+  EXPECT_EQ(tool_->commands, (std::vector<int>{8820, 8822, 8823}));
+}
 
 TEST_F(ZelToolWindowTest, PaintsItsWholeClientAreaThroughTheSharedBuffer) {
   tool_->painted.clear();

@@ -33,9 +33,9 @@ TEST_F(Installation, HoldsProgramsDataAndMenuEntry) {
   const Outcome outcome = Install();
   ASSERT_TRUE(outcome.succeeded) << outcome.output;
   for (const char* path :
-       {"usr/lib/orvane/orvane-calc", "usr/lib/orvane/periodic.dat", "usr/share/applications/orvane.desktop",
-        "usr/share/icons/hicolor/scalable/apps/orvane.svg", "usr/share/doc/orvane/LICENSE",
-        "usr/share/doc/orvane/docs/README.md"}) {
+       {"usr/lib/orvane/orvane-calc", "usr/lib/orvane/periodic.dat", "usr/lib/orvane/constants.dat",
+        "usr/share/applications/orvane.desktop", "usr/share/icons/hicolor/scalable/apps/orvane.svg",
+        "usr/share/doc/orvane/LICENSE", "usr/share/doc/orvane/docs/README.md"}) {
     EXPECT_TRUE(fs::is_regular_file(stage_ / path)) << path;
   }
   EXPECT_EQ(fs::read_symlink(stage_ / "usr/bin/orvane-calc"), "../lib/orvane/orvane-calc");

@@ -40,7 +40,7 @@ TEST(Dialogs, AboutBoxNamesProductVersionMakerContactAndSource) {
   EXPECT_EQ(Texts(*dialog),
             (std::vector<std::string>{
                 "Orvane", "Version 1.41 (ARM 2003)", std::string(44, '_'), "Made by the Orvane developers",
-                std::string(44, '_'), "Problems and comments are", "welcome on the project's issue page.",
+                std::string(44, '_'), "Problems and comments welcome at", "orvane@example.org",
                 "Free software, distributed under the", "MIT licence from the project's page."}));
   EXPECT_TRUE(dialog->texts[0].bold);
   EXPECT_EQ(dialog->texts[0].pointSize, 21);

@@ -30,10 +30,17 @@ std::string DataFolder(const std::string& name, const fs::path& work) {
   const fs::path file = folder / "periodic.dat";
   const std::string whole = ReadFile(ORVANE_BIN_DIR "/periodic.dat");
   using namespace std::string_view_literals;
+  using namespace std::string_literals;
+  if (name == "no-help") WriteFile(file, whole);
   if (name == "wrong-magic") WriteFile(file, "\xFF\xE8\xEB\xDE\0\0"sv);
   if (name == "no-categories") WriteFile(file, "\xDE\xEB\xE8\xFF\0\0"sv);
-  // Cut inside the names: their category and the one before are there, what comes later is not.
-  if (name == "truncated") WriteFile(file, whole.substr(0, 1500));
+  // Cut inside the names: their category and the one before are there, what comes later is not. Three
+  // categories are announced, so that the number of messages stays the same however many the program has.
+  if (name == "truncated") WriteFile(file, whole.substr(0, 4) + "\3\0"s + whole.substr(6, 1494));
+  // The elements are whole, and the constants are not there, or cut inside the atomic ones.
+  if (name == "no-constants" || name == "constants-truncated") WriteFile(file, whole);
+  if (name == "constants-truncated")
+    WriteFile(folder / "constants.dat", ReadFile(ORVANE_BIN_DIR "/constants.dat").substr(0, 6000));
   return folder.string() + "/";
 }
 
@@ -50,7 +57,7 @@ Stage SetStage(const std::string& scriptPath, const std::string& workFolder) {
   stage.script = ReadFile(scriptPath);
   std::string data;
   std::istringstream lines(stage.script);
-  for (std::string line; std::getline(lines, line) && line.rfind("#", 0) == 0;) {
+  for (std::string line; std::getline(lines, line) && line.starts_with('#');) {
     if (const auto value = Comment(line, "data")) data = *value;
     if (const auto value = Comment(line, "exit")) stage.exit = std::stoi(*value);
     if (const auto value = Comment(line, "scale")) stage.scale = std::stoi(*value);

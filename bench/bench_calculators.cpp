@@ -1,0 +1,112 @@
+// The calculators as a user feels them: from a key or a click to the frame that shows what came of it. The
+// argument is the scale.
+#include <benchmark/benchmark.h>
+
+#include "app/commands.h"
+#include "app/played_application.h"
+#include "data/memory_settings.h"
+#include "platform/host_headless.h"
+
+namespace orvane {
+namespace {
+
+DeviceOptions OptionsOf(const benchmark::State& state) {
+  DeviceOptions options;
+  options.scale = static_cast<double>(state.range(0));
+  options.panelMode = PanelMode::kNever;
+  return options;
+}
+
+// The running program with one of its calculators in front, as on a first run.
+class RunningCalculator {
+ public:
+  RunningCalculator(const benchmark::State& state, int command)
+      : program_(host_, OptionsOf(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
+    Step();
+    GetDevice().Post(GetDevice().MainWindow(), WM_COMMAND, PackCommand(command, 0));
+    Step();
+  }
+  Device& GetDevice() { return program_.GetDevice(); }
+  void Step() { GetDevice().Step(host_.Now()); }
+  void Key(int key, Modifiers modifiers = {}) {
+    GetDevice().KeyDown(key, modifiers);
+    GetDevice().KeyUp(key, modifiers);
+    Step();
+  }
+  void Type(Char character) {
+    GetDevice().Character(character);
+    Step();
+  }
+  void Tap(Point point) {
+    GetDevice().PenDown(point);
+    GetDevice().PenUp(point);
+    Step();
+  }
+
+ private:
+  HeadlessHost host_;
+  MemorySettings store_;
+  PlayedApplication program_;
+};
+
+constexpr Point kBalanceButton{78, 171};  // of the screen
+constexpr Point kFirstBox{60, 84};
+
+// A digit and Backspace, behind the text of a first run: two strokes a round.
+void TypeAndTakeBack(benchmark::State& state, RunningCalculator& calculator) {
+  calculator.Key(VK_END);
+  for ([[maybe_unused]] auto _ : state) {
+    calculator.Type(u'2');
+    calculator.Key(VK_BACK);
+  }
+  state.SetItemsProcessed(state.iterations() * 2);
+}
+
+void MassKeyStroke(benchmark::State& state) {
+  RunningCalculator calculator(state, kCommandMass);
+  TypeAndTakeBack(state, calculator);
+}
+
+// Brackets, indices and a mass, in a box that holds as much as can be typed.
+void MassKeyStrokeLongFormula(benchmark::State& state) {
+  RunningCalculator calculator(state, kCommandMass);
+  for (int i = 0; i < 31; ++i) {
+    for (const Char c : TextView(u"ca(oh)2")) calculator.GetDevice().Character(c);
+  }
+  calculator.Step();
+  TypeAndTakeBack(state, calculator);
+}
+
+void BalancerKeyStroke(benchmark::State& state) {
+  RunningCalculator calculator(state, kCommandBalancer);
+  TypeAndTakeBack(state, calculator);
+}
+
+// A click on the button, with the equation of a first run; from the second on its coefficients are in it.
+void BalanceClick(benchmark::State& state) {
+  RunningCalculator calculator(state, kCommandBalancer);
+  for ([[maybe_unused]] auto _ : state) calculator.Tap(kBalanceButton);
+}
+
+// By Enter: many solutions, laid out in their view.
+void BalanceGeneral(benchmark::State& state) {
+  RunningCalculator calculator(state, kCommandBalancer);
+  calculator.Tap(kFirstBox);
+  const auto replace = [&calculator](TextView text) {
+    calculator.Key('A', {.shift = false, .control = true, .alt = false});
+    for (const Char c : text) calculator.Type(c);
+  };
+  replace(u"kmno4+h2o2+hcl");
+  calculator.Key(VK_TAB);
+  replace(u"kcl+mncl2+h2o+cl2+o2");
+  for ([[maybe_unused]] auto _ : state) calculator.Key(VK_RETURN);
+}
+
+BENCHMARK(MassKeyStroke)->Arg(1)->Arg(2)->Arg(3)->Unit(benchmark::kMicrosecond);
+BENCHMARK(MassKeyStrokeLongFormula)->Arg(2)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BalancerKeyStroke)->Arg(1)->Arg(2)->Arg(3)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BalanceClick)->Arg(1)->Arg(2)->Arg(3)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BalanceGeneral)->Arg(2)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace orvane
