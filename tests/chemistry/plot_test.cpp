@@ -66,7 +66,7 @@ TEST(PlotTest, WithoutPointsNothingHappens) {
   Plot plot;
   for (const TextView filter : {u"", u"48-3"}) {
     PlotElements elements;
-    if (filter.size() > 0) elements.Set(3, u"7", u"8");
+    if (!filter.empty()) elements.Set(3, u"7", u"8");
     elements.Build(plot, filter);
     EXPECT_TRUE(plot.IsEmpty());
     EXPECT_EQ(plot.View(), PlotView());
