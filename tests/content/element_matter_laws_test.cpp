@@ -108,18 +108,32 @@ TEST_F(MatterLaws, FusionCostsLessThanVaporizationAndThatLessThanAtomization) {
         EXPECT_LT(Number(kVaporization, z), 1.12 * Number(kAtomization, z) * AtomsInTheMole(z));
       },
       kVaporization, kAtomization);
+  // Melting and boiling together take the atoms apart, at temperatures where less is left to do. Carbon and
+  // arsenic boil from the solid, and nothing of what melts is heated further.
+  ForElementsWith(
+      75,
+      [&](int z) {
+        if (Number(kAtomization, z) == 0 || z == 6 || z == 33) return;
+        EXPECT_LT(Number(kFusion, z) + Number(kVaporization, z),
+                  1.02 * Number(kAtomization, z) * AtomsInTheMole(z));
+      },
+      kFusion, kVaporization, kAtomization);
 }
 
+// The mass of technetium is that of its longest-lived isotope, its volume that of a heavier one; strontium's
+// density is the handbook's, between those of the lattice and of other handbooks.
 TEST_F(MatterLaws, MassOverDensityIsTheMolarVolume) {
   ForElementsWith(
       80,
       [&](int z) {
-        EXPECT_NEAR(Number(kMass, z) / Number(kDensity, z) / Number(kMolarVolume, z), 1.0, 0.026);
+        const double tolerance = z == 38 || z == 43 ? 0.026 : 0.0135;
+        EXPECT_NEAR(Number(kMass, z) / Number(kDensity, z) / Number(kMolarVolume, z), 1.0, tolerance);
       },
       kDensity, kMolarVolume);
 }
 
-// Atoms in the cell of a crystal, times their mass, over the volume of the cell.
+// Atoms in the cell of a crystal, times their mass, over the volume of the cell. The cells of rubidium and
+// iodine were measured in the cold, where they are smaller.
 TEST_F(MatterLaws, CrystalsHaveTheDensityOfTheElement) {
   const std::map<std::string, double> atoms = {{"Simple cubic", 1},
                                                {"Body-centred cubic", 2},
@@ -146,10 +160,22 @@ TEST_F(MatterLaws, CrystalsHaveTheDensityOfTheElement) {
         const double volume = Number(kLatticeA, z) * Number(kLatticeB, z) * Number(kLatticeC, z) *
                               (hexagonal ? std::sqrt(0.75) : 1.0) * 1e-30;
         const double density = inCell->second * Number(kMass, z) / (volume * 6.02214076e23);
-        EXPECT_NEAR(density / Number(kDensity, z), 1.0, 0.065) << density;
+        const double tolerance = z == 37 || z == 53 ? 0.065 : z == 38 ? 0.023 : 0.018;
+        EXPECT_NEAR(density / Number(kDensity, z), 1.0, tolerance) << density;
       },
       kCrystal, kLatticeA, kLatticeB, kLatticeC, kAngles, kDensity);
   EXPECT_GE(met, 65);
+}
+
+// A rhombohedral cell with two atoms is known by its edge and angle. Bismuth's hexagonal cell, a = 454.6 pm
+// and c = 1186.2 pm, has the same layers: edge² = a²/3 + c²/9, and a = 2 edge sin(angle / 2).
+TEST_F(MatterLaws, BismuthHasTheAngleOfItsHexagonalCell) {
+  constexpr int kBismuth = 83;
+  constexpr double kA = 454.6, kC = 1186.2;
+  const double edge = std::sqrt(kA * kA / 3 + kC * kC / 9);
+  EXPECT_NEAR(Number(kLatticeA, kBismuth), edge, 0.5);
+  const double angle = 2 * std::asin(kA / (2 * edge)) * 180 / 3.14159265;
+  EXPECT_NEAR(NumberOf(Plain(kAngles, kBismuth).substr(0, 5)), angle, 0.01);
 }
 
 // E = 2 G (1 + ν) and E = 3 K (1 - 2 ν). The second magnifies the uncertainty of a ν near one half.
@@ -198,7 +224,7 @@ TEST_F(MatterLaws, SoundTravelsAsElasticityAndDensityLetIt) {
         if (Plain(kState, z) == "Gas") {
           const double gamma = IsNobleGas(z) ? 5.0 / 3 : z == 17 ? 1.34 : 1.4;
           const double mass = Number(kMass, z) * AtomsInTheMole(z) / 1000;
-          EXPECT_NEAR(Number(kSound, z) / std::sqrt(gamma * 8.314 * 273.15 / mass), 1.0, 0.05);
+          EXPECT_NEAR(Number(kSound, z) / std::sqrt(gamma * 8.314 * 273.15 / mass), 1.0, 0.015);
         } else if (Has(kYoung, z)) {
           const double rod = std::sqrt(Number(kYoung, z) * 1e9 / (Number(kDensity, z) * 1000));
           EXPECT_NEAR(Number(kSound, z) / rod, 1.0, 0.25);

@@ -58,7 +58,7 @@ inline constexpr ExpectedProperty kExpectedProperties[] = {
     {4, 0, 34, "Melting point", " K", true, 97},
     {4, 1, 35, "Boiling point", " K", true, 90},
     {4, 2, 36, "Heat of fusion", " kJ/mol", true, 95},
-    {4, 3, 37, "Heat of vaporization", " kJ/mol", true, 92},
+    {4, 3, 37, "Heat of vaporization", " kJ/mol", true, 89},
     {4, 4, 38, "Heat of atomization", " kJ/mol", true, 95},
     {4, 5, 39, "Molar heat capacity", " J/(mol·K)", true, 88},
     {4, 6, 40, "Specific heat", " J/(g·K)", true, 88},
@@ -82,7 +82,7 @@ inline constexpr ExpectedProperty kExpectedProperties[] = {
     {5, 11, 57, "Shear modulus", " GPa", true, 58},
     {5, 12, 58, "Bulk modulus", " GPa", true, 67},
     {5, 13, 59, "Poisson's ratio", "", true, 54},
-    {5, 14, 60, "Speed of sound", " m/s", true, 65},
+    {5, 14, 60, "Speed of sound", " m/s", true, 64},
     // Electrical and optical
     {6, 0, 61, "Electrical resistivity", " nΩ·m", true, 64},
     {6, 1, 62, "Superconducting transition", " K", true, 28},
