@@ -40,21 +40,34 @@ bool NeedsMark(std::string_view word) {
   return word.starts_with('[') || word.starts_with(kWordMark) || word == "%%" || word == "++";
 }
 
+// "--x-filter=" gives the empty filter; the library would look for one in the next word.
+bool IsOptionWithEmptyValue(std::string_view word) {
+  return word == "--x-filter=" || word == "--y-filter=" || word == "--data=";
+}
+
 // `argv` begins with the program's name, which is left out.
 std::vector<std::string> MarkedWords(const std::vector<const char*>& argv) {
-  if (argv.empty()) return {};
-  std::vector<std::string> words(argv.begin() + 1, argv.end());
-  for (std::string& word : words) {
-    if (NeedsMark(word)) word = kWordMark + word;
+  std::vector<std::string> words;
+  bool options = true;
+  for (std::size_t i = 1; i < argv.size(); ++i) {
+    std::string word = argv[i];
+    options = options && word != "--";
+    if (options && IsOptionWithEmptyValue(word)) {
+      word.pop_back();
+      words.push_back(word);
+      word.clear();
+    }
+    words.push_back(NeedsMark(word) ? kWordMark + word : word);
   }
   return words;
 }
 
+std::string Unmarked(const std::string& word) { return word.starts_with(kWordMark) ? word.substr(1) : word; }
+
 void TakeMarksOff(CLI::App& app) {
   for (CLI::Option* option : app.get_options()) {
     if (option->get_type_size() == 0) continue;  // a flag
-    option->transform(
-        [](const std::string& word) { return word.starts_with(kWordMark) ? word.substr(1) : word; });
+    option->transform(Unmarked);
   }
   for (CLI::App* command : app.get_subcommands({})) TakeMarksOff(*command);
 }
@@ -159,6 +172,35 @@ void AddDump(CLI::App& app, Arguments& arguments, Session& session) {
   help->callback([&] { DumpHelp(session, arguments.dumpFile); });
 }
 
+// The commands that a word can name: those of the program, or behind "dump" its files.
+std::string CommandNames(const CLI::App& app) {
+  std::string names;
+  for (const CLI::App* command : app.get_subcommands({})) {
+    names += (names.empty() ? "" : ", ") + command->get_name();
+  }
+  return names;
+}
+
+// What is wrong with the command line, and where to read on.
+std::string UsageMessage(const CLI::App* app, const CLI::Error& error) {
+  const CLI::App* innermost = app;
+  std::string called = app->get_name();
+  while (!innermost->get_subcommands().empty()) {
+    innermost = innermost->get_subcommands().front();
+    called += " " + innermost->get_name();
+  }
+  std::string what = error.what();
+  if (error.get_name() == "RequiredError" && !innermost->get_subcommands({}).empty()) {
+    const std::vector<std::string> rest = app->remaining(true);
+    const std::string word = rest.empty() ? "" : Unmarked(rest.front());
+    what = word.empty()            ? "a command is needed"
+           : word.starts_with('-') ? "no option " + word
+                                   : "no command " + word;
+    what += "; the commands are " + CommandNames(*innermost);
+  }
+  return "orvane-calc: " + what + "\nRun " + called + " --help for more information.\n";
+}
+
 }  // namespace
 
 int RunCalculator(int argc, const char* const* argv, const std::string& programFolder, std::istream& in,
@@ -168,6 +210,10 @@ int RunCalculator(int argc, const char* const* argv, const std::string& programF
   CLI::App app("Orvane's calculators and data files on the command line", "orvane-calc");
   app.set_version_flag("--version", "orvane-calc " ORVANE_VERSION);
   app.set_help_flag("--help", "Print this help and exit");
+  app.footer(
+      "-- ends the options: what follows is taken as it stands.\n"
+      "Exit status: 0 when all was answered, 1 when something was not, 2 for wrong usage.");
+  app.failure_message(UsageMessage);
   app.fallthrough();
   app.require_subcommand(1);
   app.add_option("--data", arguments.dataFolder, "The folder of the data files, in place of the program's")

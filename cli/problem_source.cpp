@@ -24,8 +24,8 @@ bool LineReader::Fill() {
   // What has been answered is shown before anybody waits for more.
   std::streambuf& source = *in_.rdbuf();
   if (source.in_avail() <= 0) idle_.flush();
-  if (std::streambuf::traits_type::eq_int_type(source.sgetc(), std::streambuf::traits_type::eof()))
-    return false;
+  // Asked through the stream, which keeps a failure of the system (a folder, a closed descriptor) to itself.
+  if (std::istream::traits_type::eq_int_type(in_.peek(), std::istream::traits_type::eof())) return false;
   const std::streamsize room = static_cast<std::streamsize>(kBufferSize - end_);
   const std::streamsize ready = std::clamp<std::streamsize>(source.in_avail(), 1, room);
   const std::streamsize got = source.sgetn(buffer_.data() + end_, ready);
@@ -58,14 +58,17 @@ bool LineReader::Next(std::string_view& line, bool& tooLong) {
 }
 
 bool ProblemSource::Next(Problem& problem) {
-  if (!answers_) return false;
+  if (!session_.out) return false;
   std::string_view bytes;
   bool tooLong = false;
   if (!words_.empty()) {
     if (nextWord_ == words_.size()) return false;
     bytes = words_[nextWord_++];
   } else {
-    if (!lines_.Next(bytes, tooLong)) return false;
+    if (!lines_.Next(bytes, tooLong)) {
+      if (lines_.Failed()) session_.Fail("standard input could not be read");
+      return false;
+    }
     problem.line = ++lineNumber_;
   }
   problem.error = {};

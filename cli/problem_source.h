@@ -26,6 +26,9 @@ class LineReader {
   // line that is too long is read over: it comes back empty, with `tooLong` set.
   bool Next(std::string_view& line, bool& tooLong);
 
+  // Whether the end came because the stream could not be read.
+  bool Failed() const { return in_.bad(); }
+
  private:
   // Gets more of the stream behind what is left in the buffer; false at the end.
   bool Fill();
@@ -49,15 +52,16 @@ class ProblemSource {
  public:
   // The words outlive the source.
   ProblemSource(Session& session, const std::vector<std::string>& words)
-      : words_(words), answers_(session.out), lines_(session.in, session.out) {}
+      : session_(session), words_(words), lines_(session.in, session.out) {}
 
   // False when there are no more, or when answers can no longer be written: an input without an end would
-  // otherwise be read for nobody. The problem's memory is used again.
+  // otherwise be read for nobody. An input that cannot be read is told, and has no more. The problem's memory
+  // is used again.
   bool Next(Problem& problem);
 
  private:
+  Session& session_;
   const std::vector<std::string>& words_;
-  const std::ostream& answers_;
   std::size_t nextWord_ = 0;
   LineReader lines_;
   std::size_t lineNumber_ = 0;

@@ -304,5 +304,29 @@ TEST(Element, NeedsItsDataFile) {
   }
 }
 
+TEST(Usage, NamesTheCommandsWhereNoneWasGiven) {
+  const std::string commands = "mass, balance, element, constant, filter, plot, dump\n";
+  const std::string more = "Run orvane-calc --help for more information.\n";
+  const auto wrong = [](const std::vector<std::string>& words) {
+    const ProgramResult result = Calc(words);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.out, "");
+    return result.err;
+  };
+  EXPECT_EQ(wrong({}), "orvane-calc: a command is needed; the commands are " + commands + more);
+  EXPECT_EQ(wrong({"mas", "h2o"}), "orvane-calc: no command mas; the commands are " + commands + more);
+  EXPECT_EQ(wrong({"[x]"}), "orvane-calc: no command [x]; the commands are " + commands + more);
+  EXPECT_EQ(wrong({"--bogus"}), "orvane-calc: no option --bogus; the commands are " + commands + more);
+  EXPECT_EQ(wrong({"dump", "foo", "file"}),
+            "orvane-calc: no command foo; the commands are periodic, constants, help\n"
+            "Run orvane-calc dump --help for more information.\n");
+  EXPECT_EQ(wrong({"dump", "help"}),
+            "orvane-calc: file is required\nRun orvane-calc dump help --help for more information.\n");
+  EXPECT_EQ(wrong({"element"}),
+            "orvane-calc: element is required\nRun orvane-calc element --help for more information.\n");
+}
+
+TEST(Usage, ExplainsTheExitStatus) { EXPECT_THAT(Calc({"--help"}).out, HasSubstr("Exit status: 0 when")); }
+
 }  // namespace
 }  // namespace orvane::testing

@@ -110,6 +110,18 @@ TEST_F(PlotCommand, NeedsTwoProperties) {
   EXPECT_EQ(Plot({"Size", "Height", "Height"}).status, 2);
 }
 
+TEST_F(PlotCommand, TakesAnEmptyFilterInOneWord) {
+  const ProgramResult unfiltered = Plot({"Size", "Height"});
+  EXPECT_NE(unfiltered.out, "");
+  for (const char* option : {"--x-filter=", "--y-filter="}) {
+    const ProgramResult result = Plot({option, "Size", "Height"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, unfiltered.out) << option;
+  }
+  // Behind "--" it is a word as any other.
+  EXPECT_THAT(Plot({"--", "Size", "--x-filter="}).err, HasSubstr("no property \"--x-filter=\""));
+}
+
 TEST(PlotCommandShipped, PlotsTheFirstIonizationEnergies) {
   const ProgramResult result =
       RunProgram(ORVANE_BIN_DIR "/orvane-calc",

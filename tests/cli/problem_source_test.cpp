@@ -91,6 +91,39 @@ TEST(ProblemSource, EndsWhenAnswersCanNoLongerBeWritten) {
   EXPECT_FALSE(source.Next(problem));
 }
 
+// A stream whose reading fails, as that of a folder does.
+class BrokenBuffer : public std::streambuf {
+ protected:
+  int_type underflow() override { throw std::ios_base::failure("the stream cannot be read"); }
+};
+
+TEST(ProblemSource, TellsThatTheInputCannotBeRead) {
+  BrokenBuffer broken;
+  std::istream in(&broken);
+  std::ostringstream out;
+  std::ostringstream err;
+  Session session{"", in, out, err};
+  const std::vector<std::string> none;
+  ProblemSource source(session, none);
+  Problem problem;
+  EXPECT_FALSE(source.Next(problem));
+  EXPECT_EQ(err.str(), "orvane-calc: standard input could not be read\n");
+  EXPECT_EQ(session.status, kSomeUnanswered);
+}
+
+TEST(ProblemSource, TakesTheEndOfTheInputForNoFailure) {
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  Session session{"", in, out, err};
+  const std::vector<std::string> none;
+  ProblemSource source(session, none);
+  Problem problem;
+  EXPECT_FALSE(source.Next(problem));
+  EXPECT_EQ(err.str(), "");
+  EXPECT_EQ(session.status, kAllAnswered);
+}
+
 // Types two lines, each when it is asked for more.
 class Typist : public std::streambuf {
  public:
