@@ -12,8 +12,15 @@ namespace {
 // Stands for a character that nothing shows. Were it drawn itself it could begin a style code or a new line.
 constexpr Char kPlaceholder = 0xFFFD;
 
+// Characters that only steer the text around them: joiners, spaces without width, marks of direction and of
+// annotation. Fonts have nothing to draw for them.
+constexpr bool IsFormat(Char c) {
+  return c == 0x034F || c == 0x061C || (c >= 0x200B && c <= 0x200F) || (c >= 0x2028 && c <= 0x202E) ||
+         (c >= 0x2060 && c <= 0x206F) || c == 0xFEFF || (c >= 0xFFF9 && c <= 0xFFFB);
+}
+
 void AppendShown(Text& drawn, TextView text) {
-  for (const Char c : text) drawn.push_back(IsControl(c) ? kPlaceholder : c);
+  for (const Char c : text) drawn.push_back(IsControl(c) || IsFormat(c) ? kPlaceholder : c);
 }
 
 // Each half of a surrogate pair can come as a token of its own; drawn apart they would show nothing.

@@ -1,4 +1,6 @@
 // What keys do to an input box.
+#include <algorithm>
+
 #include "tests/tools/input_box_fixture.h"
 
 namespace orvane {
@@ -205,6 +207,17 @@ TEST_F(InputBoxKeysTest, ControlASelectsEverything) {
   Put(u"");
   Key('A', {.shift = false, .control = true, .alt = false});
   EXPECT_EQ(State(), "0 0 0");
+}
+
+// Control and Alt together are how some keyboards type a character.
+TEST_F(InputBoxKeysTest, WithFurtherKeysHeldControlASelectsNothing) {
+  MakeFocused(u"helium");
+  owner_->seen.clear();
+  Key('A', {.shift = false, .control = true, .alt = true});
+  Key('A', {.shift = true, .control = true, .alt = false});
+  EXPECT_EQ(State(), "6 0 0");
+  const std::pair<std::uint32_t, WParam> toOwner{WM_KEYDOWN, 'A'};
+  EXPECT_EQ(std::count(owner_->seen.begin(), owner_->seen.end(), toOwner), 2);
 }
 
 TEST_F(InputBoxKeysTest, KeysThatAreNotItsOwnGoToTheOwner) {

@@ -15,6 +15,16 @@ class InputBoxViewTest : public testing::InputBoxTest {
   int CaretX() {
     return box_->Offset() + WidthOf(box_->GetText().substr(0, static_cast<std::size_t>(box_->Caret())));
   }
+  // Of the box's timer.
+  int Ticks() {
+    int ticks = 0;
+    for (const testing::Dispatched& one : shell_.Trace().messages) {
+      if (one.window != box_->Handle() || one.message != WM_TIMER) continue;
+      EXPECT_EQ(one.w, 8840u);
+      ++ticks;
+    }
+    return ticks;
+  }
   int Paints() {
     int count = 0;
     for (const testing::Dispatched& one : shell_.Trace().messages) {
@@ -202,14 +212,24 @@ TEST_F(InputBoxViewTest, ManyMovesLeaveOneTimer) {
   shell_.Settle();
   shell_.Trace().messages.clear();
   Wait(500);
-  int ticks = 0;
-  for (const testing::Dispatched& one : shell_.Trace().messages) {
-    if (one.window == box_->Handle() && one.message == WM_TIMER) {
-      EXPECT_EQ(one.w, 8840u);
-      ++ticks;
-    }
-  }
-  EXPECT_EQ(ticks, 1);
+  EXPECT_EQ(Ticks(), 1);
+}
+
+TEST_F(InputBoxViewTest, ItsTimerRunsFromTheStart) {
+  MakePlain();
+  shell_.Trace().messages.clear();
+  Wait(499);
+  EXPECT_EQ(Ticks(), 0);
+  Wait(1);
+  EXPECT_EQ(Ticks(), 1);
+}
+
+TEST_F(InputBoxViewTest, AnotherTimerDoesNotBlink) {
+  MakeFocused(u"iron");
+  GetDevice().Send(box_->Handle(), WM_TIMER, 8841);
+  EXPECT_TRUE(box_->CaretVisible());
+  GetDevice().Send(box_->Handle(), WM_TIMER, 8840);
+  EXPECT_FALSE(box_->CaretVisible());
 }
 
 TEST_F(InputBoxViewTest, WithoutTheFocusNothingBlinksAndNothingWakesTheHandHeld) {

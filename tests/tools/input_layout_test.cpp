@@ -90,6 +90,20 @@ TEST_F(InputLayoutTest, ControlCharactersTakeRoom) {
   EXPECT_EQ(Positions(layout, 3), (Xs{0, placeholder, 2 * placeholder, 3 * placeholder}));
 }
 
+// They come along when text is copied from elsewhere; unseen they would spoil a formula for no visible
+// reason.
+TEST_F(InputLayoutTest, FormatCharactersTakeRoom) {
+  const int placeholder = font_.Variant({}).font->TextWidth(u"\uFFFD");
+  for (const Char c : TextView(u"\u034F\u061C\u200B\u200F\u2028\u202E\u2060\u206F\uFEFF\uFFF9\uFFFB")) {
+    const InputLayout layout = Lay({{Text(1, c), 0}, {u"a", 0}}, 2);
+    EXPECT_EQ(layout.Pieces()[0].drawn, u"\uFFFD") << std::hex << static_cast<unsigned>(c);
+    EXPECT_EQ(Positions(layout, 2), (Xs{0, placeholder, placeholder + wide_}));
+  }
+  for (const Char c : TextView(u"\u0301\u200A\u2010\u2027\u202F\u205F\uFFFC")) {
+    EXPECT_EQ(Lay({{Text(1, c), 0}}, 1).Pieces()[0].drawn, Text(1, c));
+  }
+}
+
 TEST_F(InputLayoutTest, HalvesOfAPairAreDrawnTogether) {
   const InputLayout layout = Lay({{Text(1, 0xD83E), 0}, {Text(1, 0xDDEA), 0}, {u"a", 0}}, 3);
   ASSERT_EQ(layout.Pieces().size(), 2u);

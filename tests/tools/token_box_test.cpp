@@ -358,6 +358,31 @@ TEST_F(ChemistryBoxTest, APairIsOneCharacterForCaretAndKeys) {
   EXPECT_EQ(Runs().size(), 1u);
 }
 
+// Typed, pasted or left behind, two halves may come to stand beside each other: the caret is not put between.
+TEST_F(ChemistryBoxTest, HalvesThatMeetMakeOneCharacter) {
+  const Text high(1, 0xD83E);
+  const Text low(1, 0xDDEA);
+  MakeFocused(high + u"x" + low);
+  Key(VK_LEFT);
+  Key(VK_BACK);
+  EXPECT_EQ(State(), "0 0 0");
+  Put(high + u"x" + low);
+  Key(VK_HOME);
+  Key(VK_RIGHT);
+  Key(VK_DELETE);
+  EXPECT_EQ(State(), "0 0 0");
+  Put(high);
+  GetDevice().SetClipboardText(low);
+  box_->Paste();
+  EXPECT_EQ(State(), "2 0 0");
+  Put(u"abcd");
+  Key(VK_LEFT);
+  ShiftKey(VK_LEFT);
+  ASSERT_EQ(State(), "2 2 1");
+  box_->ReplaceText(u"a" + high + low + u"d");
+  EXPECT_EQ(State(), "1 1 2");
+}
+
 TEST_F(ChemistryBoxTest, PasteDoesNotCutAPair) {
   MakeFocused(Text(510, u'x'));
   GetDevice().SetClipboardText(u"\U0001F9EA");

@@ -222,6 +222,10 @@ TEST_F(WndElementTest, ALongSummaryScrolls) {
   Summary().Redraw();
   shell_.Settle();
   EXPECT_EQ(seen, shell_.GetHost().Pixels());
+  tool_->ShowElement(0);
+  EXPECT_EQ(Summary().scrollY, 66 + 40 * 15 - 245);
+  tool_->ShowElement(1);
+  EXPECT_EQ(Summary().scrollY, 0);
 }
 
 TEST_F(WndElementTest, PageKeysScrollALongSummary) {

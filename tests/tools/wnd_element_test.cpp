@@ -177,14 +177,16 @@ TEST_F(WndElementTest, EveryElementBeginsWithoutSelectionAtTheTop) {
   MakeAndShow(0);
   TapRow(1);
   SelectListed(u"P12");
-  List().ScrollBy(0, 50);
+  List().ScrollBy(10, 50);
   List().groups[0].expanded = false;
   List().Relayout();
+  ASSERT_EQ(List().scrollX, 10);
   ASSERT_EQ(List().scrollY, 50);
   tool_->ShowElement(1);
   EXPECT_EQ(Summary().SelectedRow(), -1);
   EXPECT_EQ(List().selectedGroup, -1);
   EXPECT_EQ(List().selectedRow, -1);
+  EXPECT_EQ(List().scrollX, 0);
   EXPECT_EQ(List().scrollY, 0);
   EXPECT_TRUE(List().groups[0].expanded);
 }
