@@ -104,6 +104,14 @@ TEST_F(ConstantsContent, ShowsTheBestKnownConstantsAsPublished) {
       {u"inverse fine-structure constant", u"α–1", "137.035 999 177", "", "± 0.000 000 021"},
       {u"Rydberg constant", u"R∞", "10 973 731.568 157", "m^-1", "± 0.000 012"},
       {u"proton mass in u", u"mp", "1.007 276 466 5789", "u", "± 0.000 000 000 0083"},
+      // Published per metre: 2.194 746 313 6314(24)e7, 4.556 335 252 9132(50)e-8, 1.331 025 048 24(41)e-15,
+      // 7.513 006 6209(23)e14.
+      {u"wavenumbers in a hartree", u"1 Eh", "219 474.631 363 14", "cm^-1", "± 0.000 000 24"},
+      {u"hartrees in a wavenumber", u"1 cm–1", "4.556 335 252 9132×10–6", "E_h", "± 0.000 000 000 0050×10–6"},
+      {u"daltons in a wavenumber", u"1 cm–1", "1.331 025 048 24×10–13", "u", "± 0.000 000 000 41×10–13"},
+      {u"wavenumbers in a dalton", u"1 u", "7.513 006 6209×1012", "cm^-1", "± 0.000 000 0023×1012"},
+      // From the permittivity, whose relative uncertainty is 1.6e-10.
+      {u"Coulomb constant", u"ke", "8.987 551 7862×109", "N m^2 C^-2", "± 0.000 000 0014×109; 1/(4πε0)"},
   };
   for (const auto& c : cases) {
     const ConstEntry& entry = Named(c.name);
