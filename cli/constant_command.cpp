@@ -47,16 +47,17 @@ bool HasEveryWord(TextView name, TextView query) {
 
 std::vector<LoadedCategory> Load(Session& session) {
   MessageCollector messages;
-  ConstantsDatabase database(session.dataFolder + kConstantsFile);
+  const std::string path = session.dataFolder + kConstantsFile;
+  ConstantsDatabase database(path);
   database.ReadCategories(messages);
   std::vector<LoadedCategory> categories;
-  for (int i = 0; i < database.CategoryCount(); ++i) {
-    auto groups = database.LoadCategory(i, messages);
-    if (groups) {
-      categories.push_back({database.Categories()[static_cast<std::size_t>(i)].name, std::move(*groups)});
-    }
-  }
+  const bool complete = database.LoadAll(messages, [&](int category, auto groups) {
+    if (!groups) return;
+    categories.push_back(
+        {database.Categories()[static_cast<std::size_t>(category)].name, std::move(*groups)});
+  });
   FailWithMessages(session, messages);
+  if (!complete) session.Fail(path + ": " + kCategoriesLeftOut);
   return categories;
 }
 

@@ -9,6 +9,10 @@
 
 namespace orvane {
 
+// Said, behind the file's name, when categories share blocks of the file beyond all measure.
+inline constexpr const char* kCategoriesLeftOut =
+    "its categories hold far more than the file; the last ones are left out";
+
 // All that answers each query, for people or one JSON object a line. A query without an answer is an error;
 // the others are answered all the same.
 void ShowConstants(Session& session, const std::vector<std::string>& queries, bool asJson);

@@ -1,3 +1,4 @@
+#include "cli/constant_command.h"
 #include "cli/dump_command.h"
 #include "cli/dump_frame.h"
 #include "data/constants_database.h"
@@ -25,26 +26,28 @@ void WriteGroups(JsonWriter& json, const std::vector<ConstGroup>& groups) {
 
 }  // namespace
 
+// The messages stand before the data, so the categories are read twice: once for what reading them says, once
+// for what they hold. Only one is in memory at a time.
 void DumpConstants(Session& session, const std::string& path) {
   MessageCollector messages;
+  MessageCollector again;
   ConstantsDatabase constants(path);
   const bool loaded = constants.ReadCategories(messages);
-  std::vector<std::vector<ConstGroup>> groups;
-  for (int category = 0; category < constants.CategoryCount(); ++category) {
-    groups.push_back(constants.LoadCategory(category, messages).value_or(std::vector<ConstGroup>()));
-  }
+  const bool complete =
+      constants.LoadAll(messages, [](int, const std::optional<std::vector<ConstGroup>>&) {});
 
   JsonWriter json(session.out);
   BeginDump(json, path, loaded, messages);
   json.Key("categories").BeginArray();
-  for (std::size_t category = 0; category < groups.size(); ++category) {
-    const ConstCategory& known = constants.Categories()[category];
+  constants.LoadAll(again, [&](int category, const std::optional<std::vector<ConstGroup>>& groups) {
+    const ConstCategory& known = constants.Categories()[static_cast<std::size_t>(category)];
     json.BeginObject().Key("name").String(known.name).Key("offset").Number(known.offset);
-    WriteGroups(json, groups[category]);
+    if (groups) WriteGroups(json, *groups);
     json.EndObject();
-  }
+  });
   json.EndArray();
   EndDump(session, json, path, loaded, "constants file");
+  if (!complete) session.Fail(path + ": " + kCategoriesLeftOut);
 }
 
 }  // namespace orvane

@@ -55,8 +55,12 @@ class ConstantsReader {
     return categories;
   }
 
+  std::uint32_t FileSize() const { return size_; }
+  std::uint32_t BytesRead() { return file_.FilePos() - start_; }
+
   std::vector<ConstGroup> Groups(std::int32_t offset) {
     GoTo(offset);
+    start_ = file_.FilePos();
     Text skippedName;
     file_.ReadTCharFromChar_C(skippedName, kField);
     std::vector<ConstGroup> groups;
@@ -106,6 +110,7 @@ class ConstantsReader {
   WatchingReporter reporter_;
   ZelBinary file_;
   std::uint32_t size_ = 0;
+  std::uint32_t start_ = 0;  // of the block that Groups reads
   std::size_t constants_ = 0;
 };
 
@@ -122,9 +127,28 @@ bool ConstantsDatabase::ReadCategories(MessageReporter& reporter) {
 std::optional<std::vector<ConstGroup>> ConstantsDatabase::LoadCategory(int category,
                                                                        MessageReporter& reporter) const {
   if (category < 0 || category >= CategoryCount()) return std::nullopt;
+  Reading ignored;
+  return Load(category, reporter, ignored);
+}
+
+bool ConstantsDatabase::LoadAll(MessageReporter& reporter, const Visitor& visit) const {
+  Reading reading;
+  bool complete = true;
+  for (int category = 0; category < CategoryCount(); ++category) {
+    if (reading.bytes > reading.fileSize + kMostBeyondTheFile) complete = false;
+    visit(category, complete ? Load(category, reporter, reading) : std::nullopt);
+  }
+  return complete;
+}
+
+std::optional<std::vector<ConstGroup>> ConstantsDatabase::Load(int category, MessageReporter& reporter,
+                                                               Reading& reading) const {
   ConstantsReader reader(reporter);
   if (!reader.Open(path_)) return std::nullopt;
-  return reader.Groups(categories_[static_cast<std::size_t>(category)].offset);
+  std::vector<ConstGroup> groups = reader.Groups(categories_[static_cast<std::size_t>(category)].offset);
+  reading.bytes += reader.BytesRead();
+  reading.fileSize = reader.FileSize();
+  return groups;
 }
 
 }  // namespace orvane

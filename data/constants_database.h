@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,6 +55,9 @@ class ConstantsDatabase {
   static constexpr std::size_t kLongestText = 254;
   // Of one category; what an absurd file holds beyond is not read.
   static constexpr std::size_t kMostConstants = 65536;
+  // In bytes. Categories that have the file to themselves are read together in no more than its size; LoadAll
+  // reads this much beyond, then the file is absurd.
+  static constexpr std::uint64_t kMostBeyondTheFile = 1'000'000;
 
   // A path as the system takes it; nothing is opened yet.
   explicit ConstantsDatabase(std::string path) : path_(std::move(path)) {}
@@ -68,7 +72,21 @@ class ConstantsDatabase {
   // cannot be opened any more.
   std::optional<std::vector<ConstGroup>> LoadCategory(int category, MessageReporter& reporter) const;
 
+  using Visitor = std::function<void(int category, std::optional<std::vector<ConstGroup>> groups)>;
+  // Loads the categories one after the other and hands each over. Thousands of categories may share a block:
+  // once more has been read than the file can honestly hold, the others are handed over as nothing. False in
+  // that case.
+  bool LoadAll(MessageReporter& reporter, const Visitor& visit) const;
+
  private:
+  struct Reading {
+    std::uint64_t bytes = 0;  // of all blocks together
+    std::uint64_t fileSize = 0;
+  };
+
+  std::optional<std::vector<ConstGroup>> Load(int category, MessageReporter& reporter,
+                                              Reading& reading) const;
+
   std::string path_;
   std::vector<ConstCategory> categories_;
 };

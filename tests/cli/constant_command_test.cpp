@@ -178,5 +178,32 @@ TEST(DumpConstants, ReportsAMissingFileAndDamage) {
               ElementsAre("ZelBinary::ReadShort() - attempted to read beyond end of file"));
 }
 
+// A thousand categories share one block, which one honest category could hold as well.
+TEST(DumpConstants, EndsWhenCategoriesHoldFarMoreThanTheFile) {
+  constexpr int kCategories = 1000;
+  const TempFolder folder;
+  const std::string path = folder.File("constants.dat");
+  DatWriter file;
+  file.Short(kCategories);
+  for (int i = 0; i < kCategories; ++i) file.Long(2 + 4 * kCategories);
+  file.Counted(u"C").Short(1).Counted(u"G").Bool(true).Short(32767);
+  file.Raw(std::string(32767 * 5, '\0')).Save(path);
+  const std::string kLeftOut =
+      path + ": its categories hold far more than the file; the last ones are left out\n";
+
+  const ProgramResult dumped = Calc({"dump", "constants", path});
+  EXPECT_EQ(dumped.status, 1);
+  EXPECT_EQ(dumped.err, "orvane-calc: " + kLeftOut);
+  const json categories = json::parse(dumped.out)["data"]["categories"];
+  ASSERT_EQ(categories.size(), 1000u);
+  EXPECT_EQ(categories[0]["groups"][0]["constants"].size(), 32767u);
+  EXPECT_EQ(categories[999]["name"], "C");
+  EXPECT_FALSE(categories[999].contains("groups"));
+
+  const ProgramResult asked = Calc({"--data", folder.Path().string(), "constant", "c"});
+  EXPECT_EQ(asked.status, 1);
+  EXPECT_EQ(asked.err, "orvane-calc: " + kLeftOut + "orvane-calc: no constant \"c\"\n");
+}
+
 }  // namespace
 }  // namespace orvane::testing

@@ -246,6 +246,57 @@ TEST_F(ConstantsDatabaseTest, ConstantsOfOneCategoryAreBound) {
   EXPECT_THAT(reporter.texts, IsEmpty());
 }
 
+// Every category once, in order, and those of a sound file complete.
+TEST_F(ConstantsDatabaseTest, LoadsAllCategoriesInOrder) {
+  DatWriter file;
+  file.Short(3).Long(14).Long(14).Long(17);
+  file.Counted(u"A").Short(1).Counted(u"G").Bool(true).Short(0);
+  ASSERT_TRUE(Read(file));
+  std::vector<std::size_t> groups;
+  EXPECT_TRUE(database.LoadAll(reporter, [&](int category, auto loaded) {
+    EXPECT_EQ(category, static_cast<int>(groups.size()));
+    ASSERT_TRUE(loaded.has_value());
+    groups.push_back(loaded->size());
+  }));
+  EXPECT_EQ(groups[0], 1u);
+  EXPECT_EQ(groups.size(), 3u);
+}
+
+// A hundred categories share one block of a fifth of a million bytes.
+TEST_F(ConstantsDatabaseTest, CategoriesThatShareABlockAreBoundTogether) {
+  constexpr int kCount = 100;
+  DatWriter file;
+  file.Short(kCount);
+  for (int i = 0; i < kCount; ++i) file.Long(2 + 4 * kCount);
+  const std::size_t head = file.Bytes().size();
+  file.Counted(u"C").Short(1).Counted(u"G").Bool(true).Short(32767).Raw(std::string(32767 * 5, '\0'));
+  ASSERT_TRUE(Read(file));
+  const std::size_t size = file.Bytes().size();
+  const int expected = static_cast<int>((size + ConstantsDatabase::kMostBeyondTheFile) / (size - head)) + 1;
+  int loaded = 0;
+  int visited = 0;
+  EXPECT_FALSE(database.LoadAll(reporter, [&](int, auto groups) {
+    ++visited;
+    if (groups) ++loaded;
+  }));
+  EXPECT_EQ(visited, kCount);
+  EXPECT_EQ(loaded, expected);
+}
+
+// What is not kept counts too: a text without an end is read to the end of the file for each of them.
+TEST_F(ConstantsDatabaseTest, EndlessTextsOfManyCategoriesAreBoundTogether) {
+  constexpr int kCount = 100;
+  DatWriter file;
+  file.Short(kCount);
+  for (int i = 0; i < kCount; ++i) file.Long(2 + 4 * kCount);
+  file.Counted(u"C").Short(1).Counted(u"G").Bool(true).Short(1).Raw(std::string(200'000, 'x'));
+  ASSERT_TRUE(Read(file));
+  int loaded = 0;
+  EXPECT_FALSE(database.LoadAll(reporter, [&](int, auto groups) { loaded += groups ? 1 : 0; }));
+  // Six of them do not reach the limit yet.
+  EXPECT_EQ(loaded, 7);
+}
+
 // Cut at every length: never more than what the whole file has, never a crash.
 TEST_F(ConstantsDatabaseTest, SurvivesEveryTruncation) {
   DatWriter file;
