@@ -3,28 +3,27 @@
 #include <algorithm>
 #include <optional>
 
+#include "chemistry/wrapped_integer.h"
+
 namespace orvane {
 
 namespace {
 
 constexpr Char kSpace = u' ';
 
-// Whole numbers wrap at 32 bits, which is what a reader of 32-bit registers has always made of them.
-std::int32_t Wrapped(std::uint32_t bits) { return static_cast<std::int32_t>(bits); }
-
-// The number that is being read.
+// The number that is being read. A whole one wraps at 32 bits, as in a reader with 32-bit registers.
 class BoundReader {
  public:
   bool AtStart() const { return atStart_; }
 
   void Digit(Char c) {
-    const auto digit = static_cast<std::uint32_t>(c - u'0');
+    const std::int32_t digit = c - u'0';
     if (real_) {
       number_ += digit * place_;
       place_ *= 0.1;
     } else {
       number_ = number_ * 10 + digit;
-      integer_ = integer_ * 10u + digit;
+      integer_ = integer_ * 10 + digit;
     }
     atStart_ = false;
   }
@@ -50,14 +49,14 @@ class BoundReader {
     if (real_) {
       bound.real = negative_ ? -number_ : number_;
     } else {
-      bound.integer = Wrapped(negative_ ? 0u - integer_ : integer_);
+      bound.integer = (negative_ ? -integer_ : integer_).Value();
     }
     *this = BoundReader();
     return bound;
   }
 
  private:
-  std::uint32_t integer_ = 0;
+  Wrapped32 integer_;
   double number_ = 0;
   double place_ = 0;
   bool real_ = false;
