@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "resources/commands.h"
+
 namespace orvane {
 namespace {
 
@@ -18,21 +20,21 @@ constexpr MenuEntry SubMenu(TextView label, const std::array<MenuEntry, N>& entr
 }
 
 constexpr std::array kAppMenu{
-    Command(u"About", 40017),
-    Command(u"Help", 40064),
-    Command(u"Exit", 40016),
+    Command(u"About", kCommandAbout),
+    Command(u"Help", kCommandHelp),
+    Command(u"Exit", kCommandExit),
 };
 
 constexpr std::array kToolsMenu{
-    Command(u"Periodic table", 40008),
-    Command(u"Find element", 40009),
-    Command(u"Show element info", 40010),
-    Command(u"Show help", 40167),
-    Command(u"Electrochemical series", 40011),
-    Command(u"Constants database", 40146),
-    Command(u"Molecular mass", 40007),
-    Command(u"Equation balancer", 40013),
-    Command(u"Quick plot", 40065),
+    Command(u"Periodic table", kCommandPeriodic),
+    Command(u"Find element", kCommandFind),
+    Command(u"Show element info", kCommandElementInfo),
+    Command(u"Show help", kCommandShowHelp),
+    Command(u"Electrochemical series", kCommandSeries),
+    Command(u"Constants database", kCommandConstants),
+    Command(u"Molecular mass", kCommandMass),
+    Command(u"Equation balancer", kCommandBalancer),
+    Command(u"Quick plot", kCommandPlot),
 };
 
 constexpr std::array kMainEntries{
@@ -40,46 +42,51 @@ constexpr std::array kMainEntries{
     SubMenu(u"Tools", kToolsMenu),
 };
 
-// 40016 is also the command of App > Exit. The two never meet: a tool tracks its own pop-up menus
-// and gets their commands itself.
 constexpr std::array kPteSize{
-    Command(u"Narrow mode", 40049),    Command(u"Wide mode", 40050),       kSeparator,
-    Command(u"Color by block", 40016), Command(u"Color by family", 40018),
+    Command(u"Narrow mode", kCommandNarrowMode),
+    Command(u"Wide mode", kCommandWideMode),
+    kSeparator,
+    Command(u"Color by block", kCommandColourByBlock),
+    Command(u"Color by family", kCommandColourByFamily),
 };
 
 // The periodic table sets the marks of these three by position.
 constexpr std::array kShowWhat{
-    Command(u"Show number", 40054),
-    Command(u"Show name", 40052),
-    Command(u"Show mass", 40053),
+    Command(u"Show number", kCommandShowNumber),
+    Command(u"Show name", kCommandShowName),
+    Command(u"Show mass", kCommandShowMass),
 };
 
 constexpr std::array kPlotSettings{
-    Command(u"X axis...", 40206),     Command(u"Y axis...", 40207),   kSeparator,
-    Command(u"Show lines", 40203),    Command(u"Show points", 40204), Command(u"Label axes", 40208),
-    Command(u"Toggle labels", 40205),
+    Command(u"X axis...", kCommandXAxis),
+    Command(u"Y axis...", kCommandYAxis),
+    kSeparator,
+    Command(u"Show lines", kCommandShowLines),
+    Command(u"Show points", kCommandShowPoints),
+    Command(u"Label axes", kCommandLabelAxes),
+    Command(u"Toggle labels", kCommandToggleLabels),
 };
 
 // Ends with a separator: the constants database appends its categories below it.
 constexpr std::array kConstCateg{
-    Command(u"Show symbol", 40153),       Command(u"Show value", 40154),
-    Command(u"Show units", 40155),        kSeparator,
-    Command(u"Copy to clipboard", 40166), kSeparator,
+    Command(u"Show symbol", kCommandShowSymbol),         Command(u"Show value", kCommandShowValue),
+    Command(u"Show units", kCommandShowUnits),           kSeparator,
+    Command(u"Copy to clipboard", kCommandCopyConstant), kSeparator,
 };
 
 // How the element view starts is chosen alike in its summary and in its full list.
-constexpr MenuEntry kStartWithSummary = Command(u"Start with summary", 40190);
-constexpr MenuEntry kStartWithFullInfo = Command(u"Start with full info", 40191);
-constexpr MenuEntry kRememberLastUsed = Command(u"Remember last used", 40192);
+constexpr MenuEntry kStartWithSummary = Command(u"Start with summary", kCommandFirstInitialView);
+constexpr MenuEntry kStartWithFullInfo = Command(u"Start with full info", kCommandFirstInitialView + 1);
+constexpr MenuEntry kRememberLastUsed = Command(u"Remember last used", kCommandFirstInitialView + 2);
 
 constexpr std::array kElSetupSum{
-    Command(u"Remove from summary", 40177),
-    Command(u"Move selected up", 40178),
-    Command(u"Move selected down", 40179),
-    Command(u"Copy to clipboard", 40186),
+    Command(u"Remove from summary", kCommandRemoveFromSummary),
+    Command(u"Move selected up", kCommandMoveUp),
+    Command(u"Move selected down", kCommandMoveDown),
+    Command(u"Copy to clipboard", kCommandCopyFromSummary),
     kSeparator,
-    Command(u"Show basic properties", 40180),
-    Command(u"Show family and block", 40181),
+    Command(u"Show basic properties", kCommandShowMain),
+    Command(u"Show family and block", kCommandShowFamily),
     kSeparator,
     kStartWithSummary,
     kStartWithFullInfo,
@@ -87,8 +94,8 @@ constexpr std::array kElSetupSum{
 };
 
 constexpr std::array kElSetupFull{
-    Command(u"Add selected to summary", 40176),
-    Command(u"Copy to clipboard", 40175),
+    Command(u"Add selected to summary", kCommandAddToSummary),
+    Command(u"Copy to clipboard", kCommandCopyFromList),
     kSeparator,
     kStartWithSummary,
     kStartWithFullInfo,
@@ -96,10 +103,13 @@ constexpr std::array kElSetupFull{
 };
 
 constexpr std::array kPresets{
-    Command(u"Preset 1", 40199),         Command(u"Preset 2", 40200),
-    Command(u"Preset 3", 40201),         kSeparator,
-    Command(u"Save as Preset 1", 40196), Command(u"Save as Preset 2", 40197),
-    Command(u"Save as Preset 3", 40198),
+    Command(u"Preset 1", kCommandFirstLoad),
+    Command(u"Preset 2", kCommandFirstLoad + 1),
+    Command(u"Preset 3", kCommandFirstLoad + 2),
+    kSeparator,
+    Command(u"Save as Preset 1", kCommandFirstSave),
+    Command(u"Save as Preset 2", kCommandFirstSave + 1),
+    Command(u"Save as Preset 3", kCommandFirstSave + 2),
 };
 
 constexpr std::array kPopupEntries{

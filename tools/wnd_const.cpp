@@ -3,6 +3,7 @@
 #include "framework/shell_reporter.h"
 #include "framework/standard_commands.h"
 #include "framework/wait_cursor.h"
+#include "resources/commands.h"
 #include "resources/help_pages.h"
 #include "resources/menus.h"
 #include "tools/const_text.h"
@@ -23,11 +24,7 @@ constexpr int kStripImage = 13;
 constexpr int kFoldImage = 14;
 constexpr int kHelpImage = 15;
 
-// Menu commands. Categories have the numbers from the first one on.
-constexpr int kShowSymbol = 40153;
-constexpr int kShowValue = 40154;
-constexpr int kShowUnits = 40155;
-constexpr int kCopy = 40166;
+// The menu's commands for the categories have the numbers from this one on.
 constexpr int kFirstCategory = 1000;
 
 // Columns of the list.
@@ -205,7 +202,7 @@ void wnd_const::FocusList() {
 int wnd_const::OwnCommandFor(WParam standard) const {
   switch (StandardCommandOf(standard)) {
     case StandardCommand::kCopy:
-      return loadFailed_ ? 0 : kCopy;
+      return loadFailed_ ? 0 : kCommandCopyConstant;
     case StandardCommand::kClose:
       return stripShown_ ? kStripButton : 0;
     default:
@@ -227,13 +224,13 @@ void wnd_const::OnCommand(int command) {
       return FoldOrUnfold();
     case kHelpButton:
       return navigator_.ShowHelp(kHelpConstantsColumns);
-    case kShowSymbol:
+    case kCommandShowSymbol:
       return ToggleColumn(kSymbolColumn);
-    case kShowValue:
+    case kCommandShowValue:
       return ToggleColumn(kValueColumn);
-    case kShowUnits:
+    case kCommandShowUnits:
       return ToggleColumn(kUnitsColumn);
-    case kCopy:
+    case kCommandCopyConstant:
       return Copy();
     default:
       return ChooseCategory(command - kFirstCategory);
@@ -243,9 +240,9 @@ void wnd_const::OnCommand(int command) {
 void wnd_const::OpenCategoryMenu() {
   if (loadFailed_) return;
   Menu& menu = GetShell().PopupMenu(kConstCategMenu);
-  menu.Check(kShowSymbol, list_->columns[kSymbolColumn].visible);
-  menu.Check(kShowValue, list_->columns[kValueColumn].visible);
-  menu.Check(kShowUnits, list_->columns[kUnitsColumn].visible);
+  menu.Check(kCommandShowSymbol, list_->columns[kSymbolColumn].visible);
+  menu.Check(kCommandShowValue, list_->columns[kValueColumn].visible);
+  menu.Check(kCommandShowUnits, list_->columns[kUnitsColumn].visible);
   const int last = kFirstCategory + database_.CategoryCount() - 1;
   menu.CheckRadio(kFirstCategory, last, kFirstCategory + settings_.category);
   GetDevice().Popups().Track(menu, kMenuAnchor, Handle());

@@ -4,6 +4,7 @@
 
 #include "data/zel_registry.h"
 #include "framework/standard_commands.h"
+#include "resources/commands.h"
 #include "resources/help_pages.h"
 #include "resources/menus.h"
 
@@ -22,19 +23,6 @@ constexpr int kHelpImage = 2;
 constexpr int kSetupImage = 20;
 constexpr int kPresetsImage = 21;
 constexpr int kToggleImage = 22;
-
-// Menu commands.
-constexpr int kCopyFromList = 40175;
-constexpr int kAddToSummary = 40176;
-constexpr int kRemoveFromSummary = 40177;
-constexpr int kMoveUp = 40178;
-constexpr int kMoveDown = 40179;
-constexpr int kShowMain = 40180;
-constexpr int kShowFamily = 40181;
-constexpr int kCopyFromSummary = 40186;
-constexpr int kFirstInitialView = 40190;
-constexpr int kFirstSave = 40196;
-constexpr int kFirstApply = 40199;
 
 // The screen points at which the menus' bottom left corners stand.
 constexpr Point kSetupAnchor{30, 295};
@@ -207,7 +195,7 @@ void wnd_element::OnBeforeHide() {
 Result wnd_element::StandardCommandFor(WParam w) const {
   switch (StandardCommandOf(w)) {
     case StandardCommand::kCopy:
-      return settings_.doSummary ? kCopyFromSummary : kCopyFromList;
+      return settings_.doSummary ? kCommandCopyFromSummary : kCommandCopyFromList;
     case StandardCommand::kClose:
       return kCloseButton;
     default:
@@ -228,14 +216,14 @@ void wnd_element::OnCommand(int command) {
       return OpenPresetsMenu();
     case kToggleButton:
       return ToggleView();
-    case kCopyFromList:
+    case kCommandCopyFromList:
       return CopyFromList();
-    case kCopyFromSummary:
+    case kCommandCopyFromSummary:
       return CopyFromSummary();
-    case kFirstInitialView:
-    case kFirstInitialView + 1:
-    case kFirstInitialView + 2:
-      return SetInitialView(command - kFirstInitialView);
+    case kCommandFirstInitialView:
+    case kCommandFirstInitialView + 1:
+    case kCommandFirstInitialView + 2:
+      return SetInitialView(command - kCommandFirstInitialView);
     default:
       return;
   }
@@ -244,26 +232,26 @@ void wnd_element::OnCommand(int command) {
 // What changes the summary or keeps it.
 bool wnd_element::OnSummaryCommand(int command) {
   switch (command) {
-    case kAddToSummary:
+    case kCommandAddToSummary:
       return AddSelected(), true;
-    case kRemoveFromSummary:
+    case kCommandRemoveFromSummary:
       return RemoveSelected(), true;
-    case kMoveUp:
+    case kCommandMoveUp:
       return MoveSelected(-1), true;
-    case kMoveDown:
+    case kCommandMoveDown:
       return MoveSelected(+1), true;
-    case kShowMain:
+    case kCommandShowMain:
       return ToggleShown(settings_.showMainProperties), true;
-    case kShowFamily:
+    case kCommandShowFamily:
       return ToggleShown(settings_.showFamilyAndBlock), true;
-    case kFirstSave:
-    case kFirstSave + 1:
-    case kFirstSave + 2:
-      return SavePreset(command - kFirstSave), true;
-    case kFirstApply:
-    case kFirstApply + 1:
-    case kFirstApply + 2:
-      return ApplyPreset(command - kFirstApply), true;
+    case kCommandFirstSave:
+    case kCommandFirstSave + 1:
+    case kCommandFirstSave + 2:
+      return SavePreset(command - kCommandFirstSave), true;
+    case kCommandFirstLoad:
+    case kCommandFirstLoad + 1:
+    case kCommandFirstLoad + 2:
+      return ApplyPreset(command - kCommandFirstLoad), true;
     default:
       return false;
   }
@@ -277,19 +265,19 @@ void wnd_element::ToggleView() {
 void wnd_element::OpenSetupMenu() {
   Menu& menu = GetShell().PopupMenu(settings_.doSummary ? kElSetupSumMenu : kElSetupFullMenu);
   if (settings_.doSummary) {
-    menu.Check(kShowMain, settings_.showMainProperties);
-    menu.Check(kShowFamily, settings_.showFamilyAndBlock);
+    menu.Check(kCommandShowMain, settings_.showMainProperties);
+    menu.Check(kCommandShowFamily, settings_.showFamilyAndBlock);
   }
   const bool known = settings_.initialView >= kStartWithSummary && settings_.initialView <= kRememberLastUsed;
-  menu.CheckRadio(kFirstInitialView, kFirstInitialView + kRememberLastUsed,
-                  known ? kFirstInitialView + settings_.initialView : 0);
+  menu.CheckRadio(kCommandFirstInitialView, kCommandFirstInitialView + kRememberLastUsed,
+                  known ? kCommandFirstInitialView + settings_.initialView : 0);
   GetDevice().Popups().Track(menu, kSetupAnchor, Handle());
 }
 
 void wnd_element::OpenPresetsMenu() {
   Menu& menu = GetShell().PopupMenu(kPresetsMenu);
-  menu.CheckRadio(kFirstApply, kFirstApply + kElementPresets - 1,
-                  currentPreset_ >= 0 ? kFirstApply + currentPreset_ : 0);
+  menu.CheckRadio(kCommandFirstLoad, kCommandFirstLoad + kElementPresets - 1,
+                  currentPreset_ >= 0 ? kCommandFirstLoad + currentPreset_ : 0);
   GetDevice().Popups().Track(menu, kPresetsAnchor, Handle());
 }
 

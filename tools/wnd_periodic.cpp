@@ -1,6 +1,7 @@
 #include "tools/wnd_periodic.h"
 
 #include "data/zel_registry.h"
+#include "resources/commands.h"
 #include "resources/menus.h"
 
 namespace orvane {
@@ -14,18 +15,6 @@ constexpr int kPresetsButton = 8869;
 constexpr int kSizeImage = 5;
 constexpr int kShowImage = 6;
 constexpr int kPresetsImage = 21;
-
-// Menu commands. Colour by block has the number that is Exit in the main menu; this one comes from the tool's
-// own pop-up menu, whose owner is this window, so that the two never meet.
-constexpr int kNarrowMode = 40049;
-constexpr int kWideMode = 40050;
-constexpr int kColourByBlock = 40016;
-constexpr int kColourByFamily = 40018;
-constexpr int kShowNumber = 40054;
-constexpr int kShowName = 40052;
-constexpr int kShowMass = 40053;
-constexpr int kFirstSave = 40196;
-constexpr int kFirstLoad = 40199;
 
 // The screen points at which the menus' bottom left corners stand.
 constexpr Point kSizeAnchor{30, 295};
@@ -87,28 +76,28 @@ void wnd_periodic::OnCommand(int command) {
       return OpenShowMenu();
     case kPresetsButton:
       return OpenPresetsMenu();
-    case kNarrowMode:
+    case kCommandNarrowMode:
       return SetMode(false);
-    case kWideMode:
+    case kCommandWideMode:
       return SetMode(true);
-    case kColourByBlock:
+    case kCommandColourByBlock:
       return SetColouring(false);
-    case kColourByFamily:
+    case kCommandColourByFamily:
       return SetColouring(true);
-    case kShowNumber:
+    case kCommandShowNumber:
       return Toggle(settings_.showNum);
-    case kShowName:
+    case kCommandShowName:
       return Toggle(settings_.showName);
-    case kShowMass:
+    case kCommandShowMass:
       return Toggle(settings_.showMass);
-    case kFirstSave:
-    case kFirstSave + 1:
-    case kFirstSave + 2:
-      return SaveToPreset(command - kFirstSave);
-    case kFirstLoad:
-    case kFirstLoad + 1:
-    case kFirstLoad + 2:
-      return LoadFromPreset(command - kFirstLoad);
+    case kCommandFirstSave:
+    case kCommandFirstSave + 1:
+    case kCommandFirstSave + 2:
+      return SaveToPreset(command - kCommandFirstSave);
+    case kCommandFirstLoad:
+    case kCommandFirstLoad + 1:
+    case kCommandFirstLoad + 2:
+      return LoadFromPreset(command - kCommandFirstLoad);
     default:
       return;
   }
@@ -116,8 +105,10 @@ void wnd_periodic::OnCommand(int command) {
 
 void wnd_periodic::OpenSizeMenu() {
   Menu& menu = GetShell().PopupMenu(kPteSizeMenu);
-  menu.CheckRadio(kNarrowMode, kWideMode, settings_.modeWide ? kWideMode : kNarrowMode);
-  menu.CheckRadio(kColourByBlock, kColourByFamily, settings_.colorType ? kColourByFamily : kColourByBlock);
+  menu.CheckRadio(kCommandNarrowMode, kCommandWideMode,
+                  settings_.modeWide ? kCommandWideMode : kCommandNarrowMode);
+  menu.CheckRadio(kCommandColourByBlock, kCommandColourByFamily,
+                  settings_.colorType ? kCommandColourByFamily : kCommandColourByBlock);
   GetDevice().Popups().Track(menu, kSizeAnchor, Handle());
 }
 
@@ -132,8 +123,8 @@ void wnd_periodic::OpenShowMenu() {
 void wnd_periodic::OpenPresetsMenu() {
   Menu& menu = GetShell().PopupMenu(kPresetsMenu);
   const int match = MatchingPreset(presets_, settings_);
-  const int last = kFirstLoad + kPeriodicPresets - 1;
-  menu.CheckRadio(kFirstLoad, last, match >= 0 ? kFirstLoad + match : 0);
+  const int last = kCommandFirstLoad + kPeriodicPresets - 1;
+  menu.CheckRadio(kCommandFirstLoad, last, match >= 0 ? kCommandFirstLoad + match : 0);
   GetDevice().Popups().Track(menu, kPresetsAnchor, Handle());
 }
 

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "data/zel_registry.h"
+#include "resources/commands.h"
 #include "resources/help_pages.h"
 #include "resources/menus.h"
 
@@ -22,16 +23,6 @@ constexpr int kZoomImage = 8;
 constexpr int kFitImage = 9;
 constexpr int kSettingsImage = 10;
 constexpr int kPresetsImage = 11;
-
-// Menu commands.
-constexpr int kXAxis = 40206;
-constexpr int kYAxis = 40207;
-constexpr int kShowLines = 40203;
-constexpr int kShowPoints = 40204;
-constexpr int kLabelAxes = 40208;
-constexpr int kToggleLabels = 40205;
-constexpr int kFirstSave = 40196;
-constexpr int kFirstLoad = 40199;
 
 // The screen points at which the menus' bottom left corners stand.
 constexpr Point kSettingsAnchor{110, 295};
@@ -125,25 +116,25 @@ void wnd_plot::OnCommand(int command) {
       return OpenSettingsMenu();
     case kPresetsButton:
       return OpenPresetsMenu();
-    case kXAxis:
-    case kYAxis:
-      return SetUpAxis(command == kXAxis);
-    case kShowLines:
+    case kCommandXAxis:
+    case kCommandYAxis:
+      return SetUpAxis(command == kCommandXAxis);
+    case kCommandShowLines:
       return Toggle(&PlotLook::showLines);
-    case kShowPoints:
+    case kCommandShowPoints:
       return Toggle(&PlotLook::showPoints);
-    case kLabelAxes:
+    case kCommandLabelAxes:
       return Toggle(&PlotLook::showAxes);
-    case kToggleLabels:
+    case kCommandToggleLabels:
       return ToggleAllLabels();
-    case kFirstSave:
-    case kFirstSave + 1:
-    case kFirstSave + 2:
-      return SavePreset(command - kFirstSave);
-    case kFirstLoad:
-    case kFirstLoad + 1:
-    case kFirstLoad + 2:
-      return LoadPreset(command - kFirstLoad);
+    case kCommandFirstSave:
+    case kCommandFirstSave + 1:
+    case kCommandFirstSave + 2:
+      return SavePreset(command - kCommandFirstSave);
+    case kCommandFirstLoad:
+    case kCommandFirstLoad + 1:
+    case kCommandFirstLoad + 2:
+      return LoadPreset(command - kCommandFirstLoad);
     default:
       return;
   }
@@ -281,16 +272,17 @@ void wnd_plot::SetMode(PenMode mode) {
 
 void wnd_plot::OpenSettingsMenu() {
   Menu& menu = GetShell().PopupMenu(kPlotSettingsMenu);
-  menu.Check(kShowLines, state_.Look().showLines);
-  menu.Check(kShowPoints, state_.Look().showPoints);
-  menu.Check(kLabelAxes, state_.Look().showAxes);
+  menu.Check(kCommandShowLines, state_.Look().showLines);
+  menu.Check(kCommandShowPoints, state_.Look().showPoints);
+  menu.Check(kCommandLabelAxes, state_.Look().showAxes);
   GetDevice().Popups().Track(menu, kSettingsAnchor, Handle());
 }
 
 void wnd_plot::OpenPresetsMenu() {
   Menu& menu = GetShell().PopupMenu(kPresetsMenu);
   const int current = state_.CurrentPreset();
-  menu.CheckRadio(kFirstLoad, kFirstLoad + kPlotPresets - 1, current >= 0 ? kFirstLoad + current : 0);
+  menu.CheckRadio(kCommandFirstLoad, kCommandFirstLoad + kPlotPresets - 1,
+                  current >= 0 ? kCommandFirstLoad + current : 0);
   GetDevice().Popups().Track(menu, kPresetsAnchor, Handle());
 }
 
