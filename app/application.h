@@ -119,6 +119,7 @@ class Application : public Shell, public Navigator {
   TextEngine engine_;
   ZelRegistry registry_;
   ElementsDatabase elements_;
+  ElementTable elementTable_;
   std::array<Bitmap, kSharedIconCount> icons_;
   Bitmap titleStrip_;
   Bitmap separator_;

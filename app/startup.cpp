@@ -100,6 +100,7 @@ void Application::InitApp() {
 void Application::LoadElements() {
   ShellReporter reporter(*this);
   elements_.Load(options_.dataFolder + kElementsFile, reporter);
+  elementTable_ = ElementTable::From(elements_.Symbol(), elements_.AtomicMass());
 }
 
 void Application::LoadSharedBitmaps() {
@@ -118,7 +119,7 @@ void Application::MakePopupBar() {
 }
 
 void Application::MakeTools() {
-  const ToolContext context{*this, elements_, *this, options_.dataFolder};
+  const ToolContext context{*this, elements_, elementTable_, *this, options_.dataFolder};
   for (std::size_t i = 0; i < options_.tools.size(); ++i) {
     if (options_.tools[i]) tools_[i] = options_.tools[i](context);
   }

@@ -50,13 +50,13 @@ MadeTool MakeSeries(const ToolContext& context) {
 
 MadeTool MakeMass(const ToolContext& context) {
   MadeTool tool;
-  tool.window = MakeWindow<wnd_mass>(context.shell, context.elements);
+  tool.window = MakeWindow<wnd_mass>(context.shell, context.elementTable);
   return tool;
 }
 
 MadeTool MakeBalancer(const ToolContext& context) {
   MadeTool tool;
-  tool.window = MakeWindow<wnd_balancer>(context.shell, context.elements);
+  tool.window = MakeWindow<wnd_balancer>(context.shell, context.elementTable);
   return tool;
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "chemistry/element_table.h"
 #include "data/elements_database.h"
 #include "framework/zel_window.h"
 #include "tools/navigator.h"
@@ -32,7 +33,8 @@ inline constexpr std::size_t kToolSlots = 10;
 // What a tool is handed when it is made.
 struct ToolContext {
   Shell& shell;
-  ElementsDatabase& elements;  // the element view marks its summary there; nobody else changes it
+  ElementsDatabase& elements;        // the element view marks its summary there; nobody else changes it
+  const ElementTable& elementTable;  // of those elements, for reading formulas
   Navigator& navigator;
   const std::string& dataFolder;  // of the data files, with a slash at its end
 };

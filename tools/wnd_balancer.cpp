@@ -3,20 +3,14 @@
 #include "data/zel_registry.h"
 #include "framework/control_messages.h"
 #include "framework/shell_reporter.h"
-#include "framework/standard_commands.h"
 #include "resources/help_pages.h"
 
 namespace orvane {
 
 namespace {
 
-constexpr int kWidth = 240;
-constexpr int kHeight = 268;
-
 constexpr int kCopyButton = 8820;
 constexpr int kPasteButton = 8821;
-constexpr int kCopyImage = 3;
-constexpr int kPasteImage = 4;
 
 constexpr Point kLeftLabel{8, 31};
 constexpr Point kRightLabel{8, 81};
@@ -39,6 +33,8 @@ constexpr Rect kMessageText{8, 188, 224, 264};
 constexpr Rect kSolution = Rect::At(7, 188, 226, 72);
 constexpr Colour kTitleColour = Rgb(193, 0, 0);
 
+constexpr TextView kTitle = u"Equation balancer";
+
 // The example that a first run shows is typed without a single capital on purpose: it balances all the same.
 constexpr TextView kLeftSetting = u"wnd_balancer.LHStext";
 constexpr TextView kRightSetting = u"wnd_balancer.RHStext";
@@ -47,12 +43,9 @@ constexpr TextView kRightDefault = u"pbbr2+crcl3+mgco3+kal(oh)4+fe(scn)3+pi3+na2
 
 }  // namespace
 
-wnd_balancer::wnd_balancer(Shell& shell, const ElementsDatabase& elements)
-    : ZelToolWindow(shell, shell.MainWindow(), true),
-      elements_(ElementTable::From(elements.Symbol(), elements.AtomicMass())) {
-  SetStyle(0, 0);
-  Move(0, 0, kWidth, kHeight);
-  SetText(u"Equation balancer");
+wnd_balancer::wnd_balancer(Shell& shell, const ElementTable& elements)
+    : InputTool(shell, kTitle, {.copy = kCopyButton, .paste = kPasteButton, .close = 0}),
+      elements_(elements) {
   CreateFontFamily(GetDevice(), Handle(), title_, u"Tahoma", 10, false, false);
   CreateFontFamily(GetDevice(), Handle(), labels_, u"Tahoma", 8, false, false);
   CreateFontFamily(GetDevice(), Handle(), messageTitle_, u"Tahoma", 10, false, false);
@@ -123,49 +116,33 @@ void wnd_balancer::SaveTexts() {
 
 Result wnd_balancer::OnMessage(std::uint32_t message, WParam w, LParam l) {
   switch (message) {
-    case WM_SETFOCUS:
-      OnFocus();
-      return 0;
-    case kAskStandardCommand:
-      return AnswerStandardCommand(w, {.copy = kCopyButton, .paste = kPasteButton, .close = 0});
     case kButtonClicked:
       OnClick(SenderOf(w));
       return 0;
-    case WM_KEYDOWN:
-      OnKeyDown(static_cast<int>(w));
-      return 0;
-    case kBeforeShow:
-      OnBeforeShow();
-      return 0;
-    case kAfterShow:
-      // The box has the focus by now and has asked for the panel; the screen begins with all of it in sight.
-      GetDevice().Panel().Request(false);
-      return 0;
     default:
-      return ZelToolWindow::OnMessage(message, w, l);
+      return InputTool::OnMessage(message, w, l);
   }
 }
 
 void wnd_balancer::OnBeforeShow() {
   Shell& shell = GetShell();
-  shell.AddBarButton(kCopyButton, kCopyImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
-  shell.AddBarButton(kPasteButton, kPasteImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
+  AddCopyAndPaste();
   shell.SetHelpTopic(kHelpBalancer);
   shell.SetCurrentTool(Handle());
 }
+
+// The box has the focus by now and has asked for the panel; the screen begins with all of it in sight.
+void wnd_balancer::OnAfterShow() { GetDevice().Panel().Request(false); }
 
 void wnd_balancer::OnFocus() {
   left_->TakeFocus();
   GetShell().SetCurrentTool(Handle());
 }
 
-void wnd_balancer::OnCommand(int command) {
-  for (EquationBox* box : {left_.get(), right_.get()}) {
-    if (!box->HasFocus()) continue;
-    if (command == kCopyButton) box->CopySelection();
-    if (command == kPasteButton) box->Paste();
-    return;
-  }
+// The one with the focus.
+CInputBox* wnd_balancer::EditedBox() {
+  if (left_->HasFocus()) return left_.get();
+  return right_->HasFocus() ? right_.get() : nullptr;
 }
 
 // From a box, which has no use for them, or from a button; Tab also from the solution, which scrolls by
@@ -225,7 +202,7 @@ void wnd_balancer::Clear() {
 }
 
 void wnd_balancer::Paint(Canvas& canvas, int, int) {
-  GetShell().DrawTitleStrip(canvas, title_, u"Equation balancer", true, true);
+  GetShell().DrawTitleStrip(canvas, title_, kTitle, true, true);
   TextEngine& engine = GetShell().Engine();
   engine.SetTextColour(kBlack);
   engine.SelectFontFamily(&labels_);

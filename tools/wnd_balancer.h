@@ -5,18 +5,17 @@
 
 #include "chemistry/balance.h"
 #include "chemistry/element_table.h"
-#include "data/elements_database.h"
 #include "framework/ctl_button.h"
-#include "framework/zel_tool_window.h"
+#include "tools/input_tool.h"
 #include "tools/solution_view.h"
 #include "tools/token_box.h"
 
 namespace orvane {
 
-class wnd_balancer : public ZelToolWindow {
+class wnd_balancer : public InputTool {
  public:
-  // The texts come from the settings; the symbols are read from the database once, here.
-  wnd_balancer(Shell& shell, const ElementsDatabase& elements);
+  // The texts come from the settings. The table outlives the screen.
+  wnd_balancer(Shell& shell, const ElementTable& elements);
   // Writes the texts back.
   ~wnd_balancer() override;
 
@@ -34,7 +33,12 @@ class wnd_balancer : public ZelToolWindow {
  protected:
   // ZelToolWindow
   void Paint(Canvas& canvas, int width, int height) override;
-  void OnCommand(int command) override;
+  // InputTool
+  CInputBox* EditedBox() override;
+  void OnFocus() override;
+  void OnBeforeShow() override;
+  void OnAfterShow() override;
+  void OnKeyDown(int key) override;
 
  private:
   void MakeBoxes();
@@ -42,9 +46,6 @@ class wnd_balancer : public ZelToolWindow {
   void LoadTexts();
   void SaveTexts();
 
-  void OnBeforeShow();
-  void OnFocus();
-  void OnKeyDown(int key);
   void OnClick(WindowHandle button);
   void Balance();
   void Clear();
@@ -52,7 +53,7 @@ class wnd_balancer : public ZelToolWindow {
   // Puts the text into the box as the program's own change, of which the box does not tell.
   static void Put(EquationBox& box, TextView text);
 
-  ElementTable elements_;
+  const ElementTable& elements_;
   FontFamily title_;
   FontFamily labels_;
   FontFamily messageTitle_;

@@ -1,15 +1,13 @@
 #include "tools/wnd_find.h"
 
 #include "framework/page_keys.h"
-#include "framework/standard_commands.h"
 #include "resources/help_pages.h"
 
 namespace orvane {
 
 namespace {
 
-constexpr int kWidth = 240;
-constexpr int kHeight = 268;
+constexpr TextView kTitle = u"Find element";
 
 constexpr Rect kBox = Rect::At(8, 48, 224, 24);
 constexpr Colour kBoxSurround = Rgb(230, 242, 255);
@@ -36,10 +34,7 @@ NamesOfElements NamesIn(const ElementsDatabase& elements) {
 }  // namespace
 
 wnd_find::wnd_find(Shell& shell, const ElementsDatabase& elements, Navigator& navigator)
-    : ZelToolWindow(shell, shell.MainWindow(), true), names_(NamesIn(elements)) {
-  SetStyle(0, 0);
-  Move(0, 0, kWidth, kHeight);
-  SetText(u"Find element");
+    : InputTool(shell, kTitle, {.copy = kCopy, .paste = kPaste, .close = 0}), names_(NamesIn(elements)) {
   CreateFontFamily(GetDevice(), Handle(), title_, u"Tahoma", 10, false, false);
   CreateFontFamily(GetDevice(), Handle(), labels_, u"Tahoma", 9, false, false);
 
@@ -55,30 +50,6 @@ wnd_find::wnd_find(Shell& shell, const ElementsDatabase& elements, Navigator& na
   Search();
 }
 
-Result wnd_find::OnMessage(std::uint32_t message, WParam w, LParam l) {
-  switch (message) {
-    case WM_SETFOCUS:
-      OnFocus();
-      return 0;
-    case kAskStandardCommand:
-      return AnswerStandardCommand(w, {.copy = kCopy, .paste = kPaste, .close = 0});
-    case WM_KEYDOWN:
-      OnKeyDown(static_cast<int>(w));
-      return 0;
-    case WM_SETTINGCHANGE:
-      FitList();
-      return 0;
-    case kBeforeShow:
-      OnBeforeShow();
-      return 0;
-    case kAfterShow:
-      FitList();  // where the panel stays down nobody says that it does
-      return 0;
-    default:
-      return ZelToolWindow::OnMessage(message, w, l);
-  }
-}
-
 void wnd_find::OnBeforeShow() {
   GetShell().SetHelpTopic(kHelpFind);
   GetShell().SetCurrentTool(Handle());
@@ -91,22 +62,11 @@ void wnd_find::OnFocus() {
   if (list_) FitList();
 }
 
-void wnd_find::OnCommand(int command) {
-  switch (command) {
-    case kCopy:
-      return box_->CopySelection();
-    case kPaste:
-      return box_->Paste();
-    default:
-      return;
-  }
-}
-
 // From the box, which has no use for them, and Tab also from the list.
 void wnd_find::OnKeyDown(int key) {
   switch (key) {
     case VK_TAB:
-      return ToggleFocus();
+      return ToggleFocus(*box_, list_->Handle());
     case VK_RETURN:
       return OpenFirstMatch();
     case VK_UP:
@@ -119,14 +79,6 @@ void wnd_find::OnKeyDown(int key) {
       return;
     default:
       return;
-  }
-}
-
-void wnd_find::ToggleFocus() {
-  if (box_->HasFocus()) {
-    GetDevice().SetFocus(list_->Handle());
-  } else {
-    box_->TakeFocus();
   }
 }
 
@@ -150,7 +102,7 @@ void wnd_find::SetListHeight(int height) {
 }
 
 void wnd_find::Paint(Canvas& canvas, int, int) {
-  GetShell().DrawTitleStrip(canvas, title_, u"Find element", true, true);
+  GetShell().DrawTitleStrip(canvas, title_, kTitle, true, true);
   TextEngine& engine = GetShell().Engine();
   engine.SelectFontFamily(&labels_);
   engine.SetTextColour(kBlack);

@@ -3,14 +3,14 @@
 #pragma once
 
 #include "data/elements_database.h"
-#include "framework/zel_tool_window.h"
 #include "tools/find_list.h"
+#include "tools/input_tool.h"
 #include "tools/navigator.h"
 #include "tools/plain_box.h"
 
 namespace orvane {
 
-class wnd_find : public ZelToolWindow {
+class wnd_find : public InputTool {
  public:
   // The database and the navigator outlive it.
   wnd_find(Shell& shell, const ElementsDatabase& elements, Navigator& navigator);
@@ -19,21 +19,22 @@ class wnd_find : public ZelToolWindow {
   FindList& List() { return *list_; }
 
   // ZelWindow
-  Result OnMessage(std::uint32_t message, WParam w, LParam l) override;
   std::string ClassName() const override { return "wnd_find"; }
 
  protected:
   // ZelToolWindow
   void Paint(Canvas& canvas, int width, int height) override;
-  void OnCommand(int command) override;
+  // InputTool
+  CInputBox* EditedBox() override { return box_.get(); }
+  void OnFocus() override;
+  void OnBeforeShow() override;
+  void OnAfterShow() override { FitList(); }  // where the panel stays down nobody says that it does
+  void OnKeyDown(int key) override;
+  void OnPanelChanged() override { FitList(); }
 
  private:
-  void OnBeforeShow();
-  void OnFocus();
-  void OnKeyDown(int key);
   void OnListFocused();
   void Search();
-  void ToggleFocus();
   void OpenFirstMatch();
   void FitList();  // above the input panel, or down to where it would be
   void SetListHeight(int height);

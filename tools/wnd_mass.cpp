@@ -1,20 +1,14 @@
 #include "tools/wnd_mass.h"
 
 #include "data/zel_registry.h"
-#include "framework/standard_commands.h"
 #include "resources/help_pages.h"
 
 namespace orvane {
 
 namespace {
 
-constexpr int kWidth = 240;
-constexpr int kHeight = 268;
-
 constexpr int kCopyButton = 8820;
 constexpr int kPasteButton = 8821;
-constexpr int kCopyImage = 3;
-constexpr int kPasteImage = 4;
 
 constexpr Point kLabel{8, 28};
 constexpr Rect kBox = Rect::At(8, 46, 224, 30);
@@ -25,17 +19,16 @@ constexpr int kShiftedSpacing = 3;
 constexpr Rect kMessage{8, 86, 232, 268};
 constexpr Point kResult{8, 101};
 
+constexpr TextView kTitle = u"Molecular mass";
+
 constexpr TextView kFormulaSetting = u"wnd_mass.Formula";
 constexpr TextView kDefaultFormula = u"h2o";
 
 }  // namespace
 
-wnd_mass::wnd_mass(Shell& shell, const ElementsDatabase& elements)
-    : ZelToolWindow(shell, shell.MainWindow(), true),
-      elements_(ElementTable::From(elements.Symbol(), elements.AtomicMass())) {
-  SetStyle(0, 0);
-  Move(0, 0, kWidth, kHeight);
-  SetText(u"Molecular mass");
+wnd_mass::wnd_mass(Shell& shell, const ElementTable& elements)
+    : InputTool(shell, kTitle, {.copy = kCopyButton, .paste = kPasteButton, .close = 0}),
+      elements_(elements) {
   CreateFontFamily(GetDevice(), Handle(), title_, u"Tahoma", 10, false, false);
   CreateFontFamily(GetDevice(), Handle(), labels_, u"Tahoma", 10, false, false);
   CreateFontFamily(GetDevice(), Handle(), messages_, u"Tahoma", 8, false, false);
@@ -66,29 +59,9 @@ void wnd_mass::SaveFormula() {
   settings.Close();
 }
 
-Result wnd_mass::OnMessage(std::uint32_t message, WParam w, LParam l) {
-  switch (message) {
-    case WM_SETFOCUS:
-      OnFocus();
-      return 0;
-    case kAskStandardCommand:
-      return AnswerStandardCommand(w, {.copy = kCopyButton, .paste = kPasteButton, .close = 0});
-    case kBeforeShow:
-      OnBeforeShow();
-      return 0;
-    case kAfterShow:
-      // The box has the focus by now and has asked for the panel; the screen begins with all of it in sight.
-      GetDevice().Panel().Request(false);
-      return 0;
-    default:
-      return ZelToolWindow::OnMessage(message, w, l);
-  }
-}
-
 void wnd_mass::OnBeforeShow() {
   Shell& shell = GetShell();
-  shell.AddBarButton(kCopyButton, kCopyImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
-  shell.AddBarButton(kPasteButton, kPasteImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
+  AddCopyAndPaste();
   shell.SetHelpTopic(kHelpMass);
   shell.SetCurrentTool(Handle());
   box_->retokenise();
@@ -96,20 +69,12 @@ void wnd_mass::OnBeforeShow() {
   Calculate();
 }
 
+// The box has the focus by now and has asked for the panel; the screen begins with all of it in sight.
+void wnd_mass::OnAfterShow() { GetDevice().Panel().Request(false); }
+
 void wnd_mass::OnFocus() {
   box_->TakeFocus();
   GetShell().SetCurrentTool(Handle());
-}
-
-void wnd_mass::OnCommand(int command) {
-  switch (command) {
-    case kCopyButton:
-      return box_->CopySelection();
-    case kPasteButton:
-      return box_->Paste();
-    default:
-      return;
-  }
 }
 
 void wnd_mass::Calculate() {
@@ -118,7 +83,7 @@ void wnd_mass::Calculate() {
 }
 
 void wnd_mass::Paint(Canvas& canvas, int, int) {
-  GetShell().DrawTitleStrip(canvas, title_, u"Molecular mass", true, true);
+  GetShell().DrawTitleStrip(canvas, title_, kTitle, true, true);
   TextEngine& engine = GetShell().Engine();
   engine.SetTextColour(kBlack);
   engine.SelectFontFamily(&labels_);

@@ -4,16 +4,15 @@
 
 #include "chemistry/element_table.h"
 #include "chemistry/mass.h"
-#include "data/elements_database.h"
-#include "framework/zel_tool_window.h"
+#include "tools/input_tool.h"
 #include "tools/token_box.h"
 
 namespace orvane {
 
-class wnd_mass : public ZelToolWindow {
+class wnd_mass : public InputTool {
  public:
-  // The formula comes from the settings; the symbols and masses are read from the database once, here.
-  wnd_mass(Shell& shell, const ElementsDatabase& elements);
+  // The formula comes from the settings. The table outlives the screen.
+  wnd_mass(Shell& shell, const ElementTable& elements);
   // Writes the formula back.
   ~wnd_mass() override;
 
@@ -21,22 +20,23 @@ class wnd_mass : public ZelToolWindow {
   const MassResult& Shown() const { return result_; }
 
   // ZelWindow
-  Result OnMessage(std::uint32_t message, WParam w, LParam l) override;
   std::string ClassName() const override { return "wnd_mass"; }
 
  protected:
   // ZelToolWindow
   void Paint(Canvas& canvas, int width, int height) override;
-  void OnCommand(int command) override;
+  // InputTool
+  CInputBox* EditedBox() override { return box_.get(); }
+  void OnFocus() override;
+  void OnBeforeShow() override;
+  void OnAfterShow() override;
 
  private:
-  void OnBeforeShow();
-  void OnFocus();
   void LoadFormula();
   void SaveFormula();
   void Calculate();
 
-  ElementTable elements_;
+  const ElementTable& elements_;
   FontFamily title_;
   FontFamily labels_;
   FontFamily messages_;

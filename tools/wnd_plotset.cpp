@@ -1,7 +1,6 @@
 #include "tools/wnd_plotset.h"
 
 #include "chemistry/value_filter.h"
-#include "framework/standard_commands.h"
 #include "resources/help_pages.h"
 
 namespace orvane {
@@ -19,8 +18,6 @@ constexpr int kHelpImage = 2;
 constexpr int kCopy = 8823;
 constexpr int kPaste = 8824;
 
-constexpr int kWidth = 240;
-constexpr int kHeight = 268;
 constexpr Point kBoxCaption{8, 28};
 constexpr Point kListCaption{8, 76};
 constexpr Rect kBox = Rect::At(8, 44, 224, 24);
@@ -40,10 +37,8 @@ Result AxisList::WndProc(WindowHandle window, std::uint32_t message, WParam w, L
 }
 
 wnd_plotset::wnd_plotset(Shell& shell, const ElementsDatabase& elements, Navigator& navigator)
-    : ZelToolWindow(shell, shell.MainWindow(), true), navigator_(navigator) {
-  SetStyle(0, 0);
-  Move(0, 0, kWidth, kHeight);
-  SetText(u"Plot settings");
+    : InputTool(shell, u"Plot settings", {.copy = kCopy, .paste = kPaste, .close = kCancel}),
+      navigator_(navigator) {
   CreateFontFamily(GetDevice(), Handle(), large_, u"Tahoma", 10, false, false);
   CreateFontFamily(GetDevice(), Handle(), small_, u"Tahoma", 8, false, false);
   MakeBar();
@@ -137,30 +132,11 @@ std::optional<PropertyAddress> wnd_plotset::Selected() const {
 }
 
 Result wnd_plotset::OnMessage(std::uint32_t message, WParam w, LParam l) {
-  switch (message) {
-    case WM_SETFOCUS:
-      OnFocus();
-      return 0;
-    case kAskStandardCommand:
-      return AnswerStandardCommand(w, {.copy = kCopy, .paste = kPaste, .close = kCancel});
-    case WM_KEYDOWN:
-      OnKeyDown(static_cast<int>(w));
-      return 0;
-    case WM_SETTINGCHANGE:
-      FitList();
-      return 0;
-    case kBeforeShow:
-      bar_->Show();
-      return 0;
-    case kAfterShow:
-      FitList();  // where the panel stays down nobody says that it does
-      return 0;
-    case kBeforeHide:
-      bar_->Hide();
-      return 0;
-    default:
-      return ZelToolWindow::OnMessage(message, w, l);
+  if (message == kBeforeHide) {
+    bar_->Hide();
+    return 0;
   }
+  return InputTool::OnMessage(message, w, l);
 }
 
 // As the current tool it hears of the input panel, under which its list must not lie.
@@ -179,19 +155,15 @@ void wnd_plotset::OnCommand(int command) {
       return Cancel();
     case kHelp:
       return navigator_.ShowHelp(kHelpAxisSetup);
-    case kCopy:
-      return box_->CopySelection();
-    case kPaste:
-      return box_->Paste();
     default:
-      return;
+      return InputTool::OnCommand(command);
   }
 }
 
 void wnd_plotset::OnKeyDown(int key) {
   switch (key) {
     case VK_TAB:
-      return ToggleFocus();
+      return ToggleFocus(*box_, list_->Handle());
     case VK_RETURN:
       return Accept();
     default:
@@ -202,7 +174,7 @@ void wnd_plotset::OnKeyDown(int key) {
 // Enter takes the row under the cursor first, and accepts when that is selected already.
 bool wnd_plotset::OnListKey(int key) {
   if (key == VK_TAB) {
-    ToggleFocus();
+    ToggleFocus(*box_, list_->Handle());
     return true;
   }
   const ListRow cursor = list_->Cursor();
@@ -210,14 +182,6 @@ bool wnd_plotset::OnListKey(int key) {
   if (key != VK_RETURN || (cursor != ListRow() && cursor != selected)) return false;
   Accept();
   return true;
-}
-
-void wnd_plotset::ToggleFocus() {
-  if (box_->HasFocus()) {
-    GetDevice().SetFocus(list_->Handle());
-  } else {
-    box_->TakeFocus();
-  }
 }
 
 void wnd_plotset::FitList() {

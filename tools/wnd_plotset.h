@@ -10,8 +10,8 @@
 #include "data/elements_database.h"
 #include "framework/ctl_grouped_list.h"
 #include "framework/ctl_toolbar.h"
-#include "framework/zel_tool_window.h"
 #include "tools/axis_setup.h"
+#include "tools/input_tool.h"
 #include "tools/navigator.h"
 #include "tools/plain_box.h"
 
@@ -28,7 +28,7 @@ class AxisList : public ctlGroupedList {
   Result WndProc(WindowHandle window, std::uint32_t message, WParam w, LParam l) override;
 };
 
-class wnd_plotset : public ZelToolWindow {
+class wnd_plotset : public InputTool {
  public:
   // The database and the navigator outlive it.
   wnd_plotset(Shell& shell, const ElementsDatabase& elements, Navigator& navigator);
@@ -47,6 +47,13 @@ class wnd_plotset : public ZelToolWindow {
   // ZelToolWindow
   void Paint(Canvas& canvas, int width, int height) override;
   void OnCommand(int command) override;
+  // InputTool
+  CInputBox* EditedBox() override { return box_.get(); }
+  void OnFocus() override;
+  void OnBeforeShow() override { bar_->Show(); }
+  void OnAfterShow() override { FitList(); }  // where the panel stays down nobody says that it does
+  void OnKeyDown(int key) override;
+  void OnPanelChanged() override { FitList(); }
 
  private:
   void MakeBar();
@@ -54,14 +61,11 @@ class wnd_plotset : public ZelToolWindow {
   void MakeList();
   void FillList(const ElementsDatabase& elements);
 
-  void OnFocus();
-  void OnKeyDown(int key);  // that the box has no use for
   bool OnListKey(int key);
   void FitList();  // above the input panel, or down to where it would be
 
   void Accept();
   void Cancel();
-  void ToggleFocus();
   void Select(const PropertyAddress& address);
   std::optional<PropertyAddress> Selected() const;
 

@@ -7,8 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "chemistry/element_table.h"
 #include "framework/standard_commands.h"
-#include "tests/framework/test_shell.h"
+#include "tests/framework/window_runs.h"
 #include "tests/tools/element_files.h"
 #include "tools/FormulaEditor.h"
 
@@ -21,7 +22,9 @@ class CalculatorBed : public ::testing::Test {
  protected:
   explicit CalculatorBed(PanelMode mode = PanelMode::kAlways)
       : shell_({.recordRuns = true, .panelMode = mode}) {
-    EXPECT_TRUE(LoadShipped(elements_));
+    ElementsDatabase database;
+    EXPECT_TRUE(LoadShipped(database));
+    elements_ = ElementTable::From(database.Symbol(), database.AtomicMass());
   }
   void Make() { tool_ = MakeWindow<Tool>(shell_, elements_); }
   void MakeAndShow() {
@@ -82,18 +85,7 @@ class CalculatorBed : public ::testing::Test {
     return value;
   }
 
-  // The runs of a window as they show, in its client coordinates.
-  std::vector<TextRun> RunsOf(WindowHandle window) {
-    shell_.Settle();
-    std::vector<TextRun> runs;
-    const Rect place = GetDevice().ScreenRect(window);
-    for (ScreenRun& one : GetDevice().VisibleRuns()) {
-      if (one.handle != window) continue;
-      one.run.rect = one.run.rect.Offset(-place.left, -place.top);
-      runs.push_back(one.run);
-    }
-    return runs;
-  }
+  std::vector<TextRun> RunsOf(WindowHandle window) { return testing::RunsOf(shell_, window); }
   // The tool's own runs below a client y, from the top.
   std::vector<TextRun> RunsBelow(int y) {
     std::vector<TextRun> runs;
@@ -121,7 +113,7 @@ class CalculatorBed : public ::testing::Test {
   }
 
   TestShell shell_;
-  ElementsDatabase elements_;
+  ElementTable elements_;
   std::unique_ptr<Tool> tool_;
 };
 

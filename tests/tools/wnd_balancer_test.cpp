@@ -350,7 +350,8 @@ TEST_F(WndBalancerTest, ASideTooLongToReadGivesWayToItsDefault) {
 // --- A database with nothing in it
 
 TEST_F(WndBalancerTest, WithoutElementsEverySymbolIsUnknown) {
-  elements_.Free();
+  const ElementsDatabase unread;
+  elements_ = ElementTable::From(unread.Symbol(), unread.AtomicMass());
   MakeAndShow();
   PressBalance();
   EXPECT_EQ(Joined(TitleRuns()), u"Errors in input - left-hand side");

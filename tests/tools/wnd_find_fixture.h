@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "framework/standard_commands.h"
-#include "tests/framework/test_shell.h"
+#include "tests/framework/window_runs.h"
 #include "tests/tools/element_files.h"
 #include "tests/tools/recording_navigator.h"
 #include "tools/wnd_find.h"
@@ -64,18 +64,7 @@ class WndFindTest : public ::testing::Test {
     shell_.Settle();
     return shell_.Pixel(shell_.OnScreen(List().Handle(), {x, y}));
   }
-  // The runs of a window, in its client coordinates.
-  std::vector<TextRun> RunsOf(WindowHandle window) {
-    shell_.Settle();
-    std::vector<TextRun> runs;
-    const Rect place = GetDevice().ScreenRect(window);
-    for (ScreenRun& one : GetDevice().VisibleRuns()) {
-      if (one.handle != window) continue;
-      one.run.rect = one.run.rect.Offset(-place.left, -place.top);
-      runs.push_back(one.run);
-    }
-    return runs;
-  }
+  std::vector<TextRun> RunsOf(WindowHandle window) { return testing::RunsOf(shell_, window); }
 
   TestShell shell_;
   ElementsDatabase elements_;

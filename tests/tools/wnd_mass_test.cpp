@@ -332,7 +332,8 @@ TEST_F(WndMassTest, AFormulaTooLongToReadGivesWayToTheDefault) {
 // --- A database with nothing in it
 
 TEST_F(WndMassTest, WithoutElementsEverySymbolIsUnknown) {
-  elements_.Free();
+  const ElementsDatabase unread;
+  elements_ = ElementTable::From(unread.Symbol(), unread.AtomicMass());
   MakeAndShow();
   EXPECT_EQ(tool_->Shown().explanation.substr(2), kUnknown);
 }
