@@ -185,6 +185,14 @@ class WndElementTest : public ::testing::Test {
     shell_.Settings().WriteLong(FromUtf8("wnd_element." + name), value);
     shell_.Settings().Close();
   }
+  // The summary of the last run: so many of the sixth category's properties.
+  void StoreExtraProperties(int count) {
+    StoreLong("Last.Count", count);
+    for (int k = 0; k < count; ++k) {
+      StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
+      StoreLong("Last.Val[" + std::to_string(k) + "]", k);
+    }
+  }
   // −1000 for what is not there.
   int Stored(const std::string& name) {
     shell_.Settings().Open();

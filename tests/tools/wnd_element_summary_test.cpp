@@ -205,11 +205,7 @@ TEST_F(WndElementTest, TheKeyboardWalksTheSummary) {
 
 TEST_F(WndElementTest, ALongSummaryScrolls) {
   LoadElementViewData(elements_, {.extraProperties = 40});
-  StoreLong("Last.Count", 40);
-  for (int k = 0; k < 40; ++k) {
-    StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
-    StoreLong("Last.Val[" + std::to_string(k) + "]", k);
-  }
+  StoreExtraProperties(40);
   MakeAndShow(0);
   EXPECT_EQ(Summary().contentHeight, 66 + 40 * 15);
   Summary().ScrollBy(0, 10'000);
@@ -230,11 +226,7 @@ TEST_F(WndElementTest, ALongSummaryScrolls) {
 
 TEST_F(WndElementTest, PageKeysScrollALongSummary) {
   LoadElementViewData(elements_, {.extraProperties = 40});
-  StoreLong("Last.Count", 40);
-  for (int k = 0; k < 40; ++k) {
-    StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
-    StoreLong("Last.Val[" + std::to_string(k) + "]", k);
-  }
+  StoreExtraProperties(40);
   MakeAndShow(0);
   const auto press = [this](int key) {
     GetDevice().KeyDown(key, {});
@@ -250,11 +242,7 @@ TEST_F(WndElementTest, PageKeysScrollALongSummary) {
 // 40 rows of 15 below a header of 66; 245 of it show.
 TEST_F(WndElementTest, ALongSummaryFollowsTheRowThatIsMoved) {
   LoadElementViewData(elements_, {.extraProperties = 40});
-  StoreLong("Last.Count", 40);
-  for (int k = 0; k < 40; ++k) {
-    StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
-    StoreLong("Last.Val[" + std::to_string(k) + "]", k);
-  }
+  StoreExtraProperties(40);
   MakeAndShow(0);
   TapRow(10);
   Command(40179);
@@ -269,11 +257,7 @@ TEST_F(WndElementTest, ALongSummaryFollowsTheRowThatIsMoved) {
 
 TEST_F(WndElementTest, ALongSummaryKeepsItsEndInViewWhenRowsAreRemoved) {
   LoadElementViewData(elements_, {.extraProperties = 40});
-  StoreLong("Last.Count", 40);
-  for (int k = 0; k < 40; ++k) {
-    StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
-    StoreLong("Last.Val[" + std::to_string(k) + "]", k);
-  }
+  StoreExtraProperties(40);
   MakeAndShow(0);
   Summary().ScrollBy(0, 10'000);
   TapRow(39);
@@ -292,11 +276,7 @@ TEST_F(WndElementTest, VeryLongSummariesSaySoAtEachDoubling) {
   // How many messages a new summary of so many rows gives.
   const auto messages = [&](int count) {
     tool_.reset();
-    StoreLong("Last.Count", count);
-    for (int k = 0; k < count; ++k) {
-      StoreLong("Last.Cat[" + std::to_string(k) + "]", 5);
-      StoreLong("Last.Val[" + std::to_string(k) + "]", k);
-    }
+    StoreExtraProperties(count);
     MakeAndShow(0);
     const MessageBoxes& boxes = GetDevice().Boxes();
     const long long shown = boxes.Open() ? 1 + boxes.Waiting() : 0;
