@@ -1,4 +1,4 @@
-// Passes what a data file's reader reports on to message boxes of the main window.
+// Passes what is reported on to message boxes of the main window.
 #pragma once
 
 #include "base/message_reporter.h"

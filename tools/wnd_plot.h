@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "framework/shell_reporter.h"
 #include "framework/zel_tool_window.h"
 #include "tools/navigator.h"
 #include "tools/plot_painter.h"
@@ -35,16 +36,6 @@ class wnd_plot : public ZelToolWindow {
   void OnCommand(int command) override;
 
  private:
-  // Message boxes for the state's reports.
-  class BoxReporter : public MessageReporter {
-   public:
-    explicit BoxReporter(Shell& shell) : shell_(shell) {}
-    void Report(TextView text, TextView, MessageIcon icon) override { shell_.Tell(text, icon); }
-
-   private:
-    Shell& shell_;
-  };
-
   // From the pen's way down to its way up. Until the pen has moved far enough it is a tap.
   struct Stroke {
     PenMode mode = PenMode::kPan;
@@ -89,7 +80,7 @@ class wnd_plot : public ZelToolWindow {
   }
 
   Navigator& navigator_;
-  BoxReporter reporter_;
+  ShellReporter reporter_;  // of the state
   PlotState state_;
   PlotPainter painter_;
   PenMode mode_ = PenMode::kPan;
