@@ -2,9 +2,8 @@
 // of a drag, opening a menu. Arguments are the form (0 short, 1 long with everything shown) and the scale.
 #include <benchmark/benchmark.h>
 
-#include "app/played_application.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "bench/running_program.h"
+#include "resources/commands.h"
 #include "tools/wnd_periodic.h"
 
 namespace orvane {
@@ -22,38 +21,21 @@ void LoadElements(benchmark::State& state) {
   if (elements.CategoryCount() == 0) state.SkipWithError("periodic.dat could not be loaded");
 }
 
-// The running program with the periodic table in the form that the arguments ask for.
-class RunningProgram {
+// The periodic table in the form and at the scale that the arguments ask for.
+class RunningTable : public RunningProgram {
  public:
-  explicit RunningProgram(const benchmark::State& state)
-      : program_(host_, Options(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    if (state.range(0) != 0) {
-      for (const int command : {40050, 40054, 40052, 40053})
-        Table().OnMessage(kToolCommand, PackCommand(command, 0), 0);
+  explicit RunningTable(const benchmark::State& state) : RunningProgram(static_cast<double>(state.range(1))) {
+    if (state.range(0) == 0) return;
+    for (const int command : {kCommandWideMode, kCommandShowNumber, kCommandShowName, kCommandShowMass}) {
+      Command(ToolSlot::kPeriodic, command);
     }
-    Step();
   }
 
-  Device& GetDevice() { return program_.GetDevice(); }
-  wnd_periodic& Table() {
-    return static_cast<wnd_periodic&>(*program_.GetApplication().Tool(ToolSlot::kPeriodic));
-  }
-  void Step() { GetDevice().Step(host_.Now()); }
-
- private:
-  static DeviceOptions Options(const benchmark::State& state) {
-    DeviceOptions options;
-    options.scale = static_cast<double>(state.range(1));
-    return options;
-  }
-
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
+  wnd_periodic& Table() { return Tool<wnd_periodic>(ToolSlot::kPeriodic); }
 };
 
 void DrawWholeTable(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningTable program(state);
   for ([[maybe_unused]] auto _ : state) {
     program.Table().Panel().LayOut();
     program.Step();
@@ -62,7 +44,7 @@ void DrawWholeTable(benchmark::State& state) {
 
 // From the pen's move to the frame.
 void DragStep(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningTable program(state);
   Device& device = program.GetDevice();
   device.PenDown({120, 160});
   device.PenMove({110, 150});
@@ -79,19 +61,17 @@ void DragStep(benchmark::State& state) {
 
 // An arrow key's step, which may uncover a part that has to be drawn.
 void ArrowStep(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningTable program(state);
   int key = VK_RIGHT;
   int steps = 0;
   for ([[maybe_unused]] auto _ : state) {
-    program.GetDevice().KeyDown(key, {});
-    program.GetDevice().KeyUp(key, {});
-    program.Step();
+    program.Key(key);
     if (++steps % 40 == 0) key = key == VK_RIGHT ? VK_LEFT : VK_RIGHT;
   }
 }
 
 void OpenPopup(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningTable program(state);
   for ([[maybe_unused]] auto _ : state) {
     program.GetDevice().Bars().Press(8867);
     program.Step();

@@ -2,51 +2,23 @@
 // argument is the scale.
 #include <benchmark/benchmark.h>
 
-#include "app/commands.h"
-#include "app/played_application.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "bench/running_program.h"
+#include "resources/commands.h"
 
 namespace orvane {
 namespace {
 
-DeviceOptions OptionsOf(const benchmark::State& state) {
-  DeviceOptions options;
-  options.scale = static_cast<double>(state.range(0));
-  options.panelMode = PanelMode::kNever;
-  return options;
-}
-
 // The running program with one of its calculators in front, as on a first run.
-class RunningCalculator {
+class RunningCalculator : public RunningProgram {
  public:
   RunningCalculator(const benchmark::State& state, int command)
-      : program_(host_, OptionsOf(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    Step();
-    GetDevice().Post(GetDevice().MainWindow(), WM_COMMAND, PackCommand(command, 0));
-    Step();
-  }
-  Device& GetDevice() { return program_.GetDevice(); }
-  void Step() { GetDevice().Step(host_.Now()); }
-  void Key(int key, Modifiers modifiers = {}) {
-    GetDevice().KeyDown(key, modifiers);
-    GetDevice().KeyUp(key, modifiers);
-    Step();
+      : RunningProgram(static_cast<double>(state.range(0)), PanelMode::kNever) {
+    Choose(command);
   }
   void Type(Char character) {
     GetDevice().Character(character);
     Step();
   }
-  void Tap(Point point) {
-    GetDevice().PenDown(point);
-    GetDevice().PenUp(point);
-    Step();
-  }
-
- private:
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
 };
 
 constexpr Point kBalanceButton{78, 171};  // of the screen

@@ -4,10 +4,8 @@
 
 #include <memory>
 
-#include "app/commands.h"
-#include "app/played_application.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "bench/running_program.h"
+#include "resources/commands.h"
 
 namespace orvane {
 namespace {
@@ -16,42 +14,20 @@ constexpr int kFold = 8823;
 constexpr int kAtomic = 1002;
 constexpr int kAqueous = 1007;
 
-class RunningProgram {
+class RunningConstants : public RunningProgram {
  public:
-  explicit RunningProgram(const benchmark::State& state)
-      : program_(host_, Options(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    Step();
-  }
+  explicit RunningConstants(const benchmark::State& state)
+      : RunningProgram(static_cast<double>(state.range(0))) {}
 
-  void ShowConstants() {
-    GetDevice().Send(GetDevice().MainWindow(), WM_COMMAND, PackCommand(kCommandConstants, 0));
-    Step();
-  }
-  void Command(int command) {
-    const ZelWindow* tool = program_.GetApplication().Tool(ToolSlot::kConstants);
-    GetDevice().Send(tool->Handle(), kToolCommand, static_cast<WParam>(command), kFromMenu);
-    Step();
-  }
-
- private:
-  static DeviceOptions Options(const benchmark::State& state) {
-    DeviceOptions options;
-    options.scale = static_cast<double>(state.range(0));
-    return options;
-  }
-  Device& GetDevice() { return program_.GetDevice(); }
-  void Step() { GetDevice().Step(host_.Now()); }
-
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
+  void ShowConstants() { Choose(kCommandConstants); }
+  void Command(int command) { RunningProgram::Command(ToolSlot::kConstants, command); }
 };
 
 // From the menu's command to the frame, with a program that has not read the file yet.
 void FirstDisplay(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     state.PauseTiming();
-    auto program = std::make_unique<RunningProgram>(state);
+    auto program = std::make_unique<RunningConstants>(state);
     state.ResumeTiming();
     program->ShowConstants();
     state.PauseTiming();
@@ -62,7 +38,7 @@ void FirstDisplay(benchmark::State& state) {
 
 // The largest two categories in turn: read, measured, drawn.
 void LoadCategory(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningConstants program(state);
   program.ShowConstants();
   bool aqueous = false;
   for ([[maybe_unused]] auto _ : state) {
@@ -72,7 +48,7 @@ void LoadCategory(benchmark::State& state) {
 }
 
 void FoldAll(benchmark::State& state) {
-  RunningProgram program(state);
+  RunningConstants program(state);
   program.ShowConstants();
   program.Command(kAqueous);
   for ([[maybe_unused]] auto _ : state) program.Command(kFold);

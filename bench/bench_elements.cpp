@@ -3,9 +3,8 @@
 // form (0 summary, 1 full list) and the scale.
 #include <benchmark/benchmark.h>
 
-#include "app/played_application.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "bench/running_program.h"
+#include "resources/commands.h"
 #include "tools/wnd_element.h"
 #include "tools/wnd_periodic.h"
 
@@ -13,52 +12,26 @@ namespace orvane {
 namespace {
 
 constexpr int kClose = 8350;
-constexpr int kFirstInitialView = 40190;
 
-class RunningProgram {
+class RunningElements : public RunningProgram {
  public:
-  RunningProgram(int form, int scale)
-      : program_(host_, Options(scale), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    View().OnMessage(kToolCommand, static_cast<WParam>(kFirstInitialView + form), kFromMenu);
-    Step();
+  RunningElements(int form, int scale) : RunningProgram(scale) {
+    Command(ToolSlot::kElement, kCommandFirstInitialView + form);
   }
 
-  Device& GetDevice() { return program_.GetDevice(); }
-  wnd_element& View() {
-    return static_cast<wnd_element&>(*program_.GetApplication().Tool(ToolSlot::kElement));
-  }
+  wnd_element& View() { return Tool<wnd_element>(ToolSlot::kElement); }
   // The middle of an element's cell on the screen.
   Point CellOf(int element) {
-    auto& table = static_cast<wnd_periodic&>(*program_.GetApplication().Tool(ToolSlot::kPeriodic));
-    const Rect& cell = table.Panel().Layout().cells[static_cast<std::size_t>(element)].rect;
+    const PeriodicLayout& layout = Tool<wnd_periodic>(ToolSlot::kPeriodic).Panel().Layout();
+    const Rect& cell = layout.cells[static_cast<std::size_t>(element)].rect;
     return {(cell.left + cell.right) / 2, kClientArea.top + (cell.top + cell.bottom) / 2};
   }
-  void Step() { GetDevice().Step(host_.Now()); }
-  void Tap(Point point) {
-    GetDevice().PenDown(point);
-    GetDevice().PenUp(point);
-    Step();
-  }
-  void Close() {
-    View().OnMessage(kToolCommand, kClose, kFromMenu);
-    Step();
-  }
-
- private:
-  static DeviceOptions Options(int scale) {
-    DeviceOptions options;
-    options.scale = scale;
-    return options;
-  }
-
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
+  void Close() { Command(ToolSlot::kElement, kClose); }
 };
 
 // Hydrogen, iron, gold and element 112 in turn.
 void ShowElement(benchmark::State& state) {
-  RunningProgram program(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+  RunningElements program(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
   constexpr int kElements[] = {0, 25, 78, 111};
   bool shown = true;
   std::size_t next = 0;
@@ -78,7 +51,7 @@ void ShowElement(benchmark::State& state) {
 
 // Each step folds, or unfolds again, and paints.
 void ToggleAll(benchmark::State& state) {
-  RunningProgram program(1, static_cast<int>(state.range(1)));
+  RunningElements program(1, static_cast<int>(state.range(1)));
   program.View().ShowElement(25);
   program.Step();
   const bool unfold = state.range(0) != 0;
@@ -94,7 +67,7 @@ void ToggleAll(benchmark::State& state) {
 }
 
 void DragStep(benchmark::State& state) {
-  RunningProgram program(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+  RunningElements program(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
   program.View().ShowElement(25);
   program.Step();
   Device& device = program.GetDevice();

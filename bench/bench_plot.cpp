@@ -2,9 +2,8 @@
 // pan. Arguments are what is shown (0 the default plot, 1 every element with its label) and the scale.
 #include <benchmark/benchmark.h>
 
-#include "app/played_application.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "bench/running_program.h"
+#include "resources/commands.h"
 #include "tools/plot_state.h"
 #include "tools/wnd_plot.h"
 
@@ -16,35 +15,20 @@ class SilentReporter : public MessageReporter {
   void Report(TextView, TextView, MessageIcon) override {}
 };
 
-constexpr int kShowPlot = 40065;
-constexpr int kToggleLabels = 40205;
 constexpr int kFit = 8122;
 
 // The running program with the plot in front.
-class RunningPlot {
+class RunningPlot : public RunningProgram {
  public:
   explicit RunningPlot(const benchmark::State& state)
-      : store_(StoreFor(state)),
-        program_(host_, Options(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    Device& device = GetDevice();
-    device.Send(device.MainWindow(), WM_COMMAND, PackCommand(kShowPlot, 0), 0);
-    if (state.range(0) != 0) Command(kToggleLabels);
-    Step();
+      : RunningProgram(static_cast<double>(state.range(1)), PanelMode::kAuto, StoreFor(state)) {
+    Choose(kCommandPlot);
+    if (state.range(0) != 0) Command(kCommandToggleLabels);
   }
 
-  Device& GetDevice() { return program_.GetDevice(); }
-  void Command(int id) {
-    const ZelWindow* plot = program_.GetApplication().Tool(ToolSlot::kPlot);
-    GetDevice().Send(plot->Handle(), kToolCommand, static_cast<WParam>(id), kFromMenu);
-  }
-  void Step() { GetDevice().Step(host_.Now()); }
+  void Command(int command) { RunningProgram::Command(ToolSlot::kPlot, command); }
 
  private:
-  static DeviceOptions Options(const benchmark::State& state) {
-    DeviceOptions options;
-    options.scale = static_cast<double>(state.range(1));
-    return options;
-  }
   // Every element: the current setup is stored, with an empty filter.
   static MemorySettings StoreFor(const benchmark::State& state) {
     MemorySettings store;
@@ -57,10 +41,6 @@ class RunningPlot {
     registry.Close();
     return store;
   }
-
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
 };
 
 // Reading the values of all elements, filtering them, and placing the points.
@@ -81,7 +61,6 @@ void PlotRedraw(benchmark::State& state) {
   RunningPlot plot(state);
   for ([[maybe_unused]] auto _ : state) {
     plot.Command(kFit);
-    plot.Step();
   }
 }
 

@@ -2,39 +2,20 @@
 // argument is the scale.
 #include <benchmark/benchmark.h>
 
-#include "app/commands.h"
-#include "app/played_application.h"
+#include "bench/running_program.h"
 #include "chemistry/element_search.h"
-#include "data/memory_settings.h"
-#include "platform/host_headless.h"
+#include "resources/commands.h"
 
 namespace orvane {
 namespace {
 
-DeviceOptions OptionsOf(const benchmark::State& state) {
-  DeviceOptions options;
-  options.scale = static_cast<double>(state.range(0));
-  options.panelMode = PanelMode::kNever;  // the long list
-  return options;
-}
-
-// The running program with the search in front.
-class RunningSearch {
+// The running program with the search in front and its list at its longest.
+class RunningSearch : public RunningProgram {
  public:
   explicit RunningSearch(const benchmark::State& state)
-      : program_(host_, OptionsOf(state), store_, {ORVANE_BIN_DIR "/", StandardTools()}) {
-    Step();
-    Device& device = GetDevice();
-    device.Post(device.MainWindow(), WM_COMMAND, PackCommand(kCommandFind, 0));
-    Step();
+      : RunningProgram(static_cast<double>(state.range(0)), PanelMode::kNever) {
+    Choose(kCommandFind);
   }
-  Device& GetDevice() { return program_.GetDevice(); }
-  void Step() { GetDevice().Step(host_.Now()); }
-
- private:
-  HeadlessHost host_;
-  MemorySettings store_;
-  PlayedApplication program_;
 };
 
 // A letter that leaves a full list, and Backspace, which brings back the whole: two strokes a round.
