@@ -21,70 +21,91 @@
 
 namespace orvane {
 
-// The number of atoms of an element, given by its index, in the term that begins at a position of a side; the
-// position then stands at the plus sign that ends the term, or at the end. An index multiplies the symbol or
-// group before it; a coefficient is passed over.
+// The atoms of one element in a term, as its tokens are read from left to right.
 template <class Integer>
-Integer CountElements(const FormulaTokens& side, std::size_t& position, int element,
-                      MessageReporter& reporter) {
+class AtomCounter {
+ public:
+  void AddSymbol(bool counts) {
+    level_.total = level_.Sum();
+    level_.pending = counts ? 1 : 0;
+  }
+  // An index multiplies the symbol or group before it.
+  void Multiply(TextView digits) {
+    int index = 0;
+    for (const Char digit : digits) index = index * 10 + (digit - u'0');
+    level_.total = level_.total + Integer(index) * level_.pending;
+    level_.pending = 0;
+  }
+  void OpenGroup() {
+    level_.total = level_.Sum();
+    outer_.push_back(level_);
+    level_ = {};
+  }
+  // Ends the group that was opened last, as one of so many atoms. There must be one.
+  void CloseGroup(const Integer& atoms) {
+    level_ = outer_.back();
+    outer_.pop_back();
+    level_.pending = atoms;
+  }
+  bool InGroup() const { return !outer_.empty(); }
+  // Of the group that is open, or of the term when none is.
+  Integer Atoms() const { return level_.Sum(); }
+  // A term that ends inside brackets ends them all.
+  Integer AtomsOfTerm() const {
+    Integer atoms = level_.Sum();
+    for (auto level = outer_.rbegin(); level != outer_.rend(); ++level) atoms = level->total + atoms;
+    return atoms;
+  }
+
+ private:
   // One level of brackets: the atoms so far, and those of the last symbol or group.
   struct Level {
     Integer total = 0;
     Integer pending = 0;
     Integer Sum() const { return total + pending; }
   };
-  std::vector<Level> outer;
-  Level level;
-  const auto endGroup = [&](const Integer& atoms) {
-    level = outer.back();
-    outer.pop_back();
-    level.pending = atoms;
-  };
+  std::vector<Level> outer_;
+  Level level_;
+};
+
+// The number of atoms of an element, given by its index, in the term that begins at a position of a side; the
+// position then stands at the plus sign that ends the term, or at the end. A coefficient is passed over. A
+// closing bracket without an opening one ends the count, and so does outside brackets a token that no checked
+// side has, which is reported; the position then stands behind it.
+template <class Integer>
+Integer CountElements(const FormulaTokens& side, std::size_t& position, int element,
+                      MessageReporter& reporter) {
+  AtomCounter<Integer> counter;
   for (; position < side.size() && side[position].kind != TokenPlus; ++position) {
     const FormulaToken& token = side[position];
+    Integer atoms = 0;  // of the group that this token ends
     switch (token.kind) {
       case TokenElement:
-        level.total = level.Sum();
-        level.pending = token.element == element ? 1 : 0;
-        break;
-      case TokenNumber: {
-        int index = 0;
-        for (const Char digit : token.View()) index = index * 10 + (digit - u'0');
-        level.total = level.total + Integer(index) * level.pending;
-        level.pending = 0;
-        break;
-      }
+        counter.AddSymbol(token.element == element);
+        continue;
+      case TokenNumber:
+        counter.Multiply(token.View());
+        continue;
       case TokenOpen:
-        level.total = level.Sum();
-        outer.push_back(level);
-        level = {};
-        break;
-      case TokenClose: {
-        Integer atoms = level.Sum();
-        if (outer.empty()) {
-          ++position;
-          return atoms;
-        }
-        endGroup(atoms);
-        break;
-      }
+        counter.OpenGroup();
+        continue;
       case TokenCoefficient:
+        continue;
+      case TokenClose:
+        atoms = counter.Atoms();
         break;
       default:
         reporter.Report(u"wnd_balancer::CountElements - DEFAULT switch statement reached", kProgramName,
                         MessageIcon::kError);
-        if (outer.empty()) {
-          ++position;
-          return 0;
-        }
-        endGroup(0);
         break;
     }
+    if (!counter.InGroup()) {
+      ++position;
+      return atoms;
+    }
+    counter.CloseGroup(atoms);
   }
-  // A term that ends inside brackets ends them all.
-  Integer atoms = level.Sum();
-  for (; !outer.empty(); outer.pop_back()) atoms = outer.back().total + atoms;
-  return atoms;
+  return counter.AtomsOfTerm();
 }
 
 template <class Integer>

@@ -58,6 +58,7 @@ FilterError ParseFilter(TextView text, std::vector<FilterRange>& ranges);
 // Gives the filter a new text. A text with an error leaves both its text and its ranges in force.
 FilterError SetFilter(ValueFilter& filter, TextView text);
 
+// Whether the value lies in one of the ranges, whose bounds belong to them. No ranges let everything pass.
 bool PassesFilter(const std::vector<FilterRange>& ranges, double value);
 inline bool PassesFilter(const ValueFilter& filter, double value) {
   return PassesFilter(filter.ranges, value);

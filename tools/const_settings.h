@@ -24,6 +24,7 @@ struct ConstSettings {
   std::array<ConstColumn, kConstColumns> columns = {ConstColumn{true, false, 100}, {}, {}, {}};
 };
 
+// What is missing in the store, or of another kind there, has its default.
 ConstSettings ReadConstSettings(ZelRegistry& registry);
 void WriteConstSettings(ZelRegistry& registry, const ConstSettings& settings);
 

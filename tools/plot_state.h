@@ -38,6 +38,7 @@ class PlotState {
   bool SetAxisFilter(bool isXAxis, TextView text);
   void SetAxisProperty(bool isXAxis, const PropertyAddress& address);
 
+  // Keeps what is shown now, with its view, as that preset, 0 to 2. None becomes the current one by it.
   void SaveAsPreset(int preset);
   // Takes over everything of the preset. A filter text that cannot be read is taken over too and reported,
   // and the ranges of the last good one stay. The preset's view is used only when no bound of the automatic
