@@ -119,7 +119,6 @@ class ctlGroupedList : public ZelPanel {
   void SizeColumns();
   void MeasureContent();
   int WidthBefore(int column) const;
-  int LastVisibleColumn() const;
 
   // Pen
   void OnTap();

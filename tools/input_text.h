@@ -15,7 +15,6 @@ class InputText {
 
   const Text& Content() const { return text_; }
   int Length() const { return static_cast<int>(text_.size()); }
-  int Longest() const { return longest_; }
   int Caret() const { return caret_; }
   // Start 0 when nothing is selected.
   int SelectionStart() const { return selectionStart_; }
