@@ -9,7 +9,6 @@ namespace orvane::testing {
 namespace {
 
 using ::testing::Contains;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;

@@ -16,7 +16,6 @@
 namespace orvane::testing {
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

@@ -194,7 +194,7 @@ TEST_F(WndSeriesTest, ItsBandsAreRoundedAndFilled) {
   Show();
   const struct {
     Rect rect;
-    std::uint32_t fill;
+    std::uint32_t fill = 0;
   } bands[] = {
       {{12, 40, 228, 80}, 0xFFFFFF}, {{12, 88, 228, 108}, 0xCCFFDE}, {{12, 116, 228, 136}, 0xFFFFFF}};
   for (const auto& [r, fill] : bands) {
