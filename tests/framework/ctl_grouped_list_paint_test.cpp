@@ -109,6 +109,10 @@ TEST_F(GroupedListTest, ALineStandsAboveEveryRowButTheFirstAndBelowTheLast) {
   EXPECT_EQ(At(60, 86), kLine);
   EXPECT_EQ(At(60, 98), kLine);
   EXPECT_EQ(At(60, 99), kBeyond);
+  // Also where that line is all that is drawn.
+  list_->RedrawRect(0, 98, 200, 99);
+  shell_.Settle();
+  EXPECT_EQ(At(60, 98), kLine);
 }
 
 TEST_F(GroupedListTest, ALinePartsGroupsWithoutTitles) {

@@ -35,6 +35,8 @@ TEST_F(GroupedListResizeTest, DraggingAnEdgeWithTheActionKeySetsTheWidth) {
   EXPECT_EQ(list_->columns[0].width, 110);
   EXPECT_EQ(list_->contentWidth, 210);
   EXPECT_FALSE(list_->privateBuffer);
+  EXPECT_EQ(list_->bufferWidth, 240);  // the shared one, as much of it as shows
+  EXPECT_EQ(list_->bufferHeight, 245);
   EXPECT_EQ(GetDevice().Capture(), list_->Handle());
   Move({80, 200});
   EXPECT_EQ(list_->columns[0].width, 80);
@@ -198,6 +200,22 @@ TEST_F(GroupedListResizeTest, AListHiddenUnderThePenHasEndedItsDrag) {
   End({140, 25});
   EXPECT_EQ(list_->columns[0].width, 110);
   EXPECT_EQ(list_->scrollX, 0);
+}
+
+// The owner may take the columns away under the pen.
+TEST_F(GroupedListResizeTest, AColumnThatIsGoneIsNotDragged) {
+  FillTwoGroups();
+  Begin({160, 25});
+  Move({170, 25});
+  ASSERT_EQ(list_->ResizingColumn(), 1);
+  std::vector<ListColumn>().swap(list_->columns);
+  LayOut();
+  Move({180, 25});
+  EXPECT_TRUE(list_->columns.empty());
+  End({180, 25});
+  EXPECT_EQ(list_->ResizingColumn(), -1);
+  EXPECT_TRUE(list_->privateBuffer);
+  EXPECT_EQ(list_->contentWidth, 0);
 }
 
 TEST_F(GroupedListResizeTest, TheLineStaysWithThePenWhenTheColumnCannot) {

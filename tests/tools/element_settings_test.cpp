@@ -116,6 +116,15 @@ TEST_F(WndElementTest, AListThatWasNeverShownStaysAsItWasStored) {
   Make();
   tool_.reset();
   EXPECT_EQ(StoredList("Last."), "3.3 77.1 1.0");
+  // Commands that reach it before the first element leave the list too.
+  Make();
+  for (const int command : {40180, 40181, 40176, 40177, 40178, 40179, 40199}) {
+    Command(command);
+    Message();
+  }
+  EXPECT_FALSE(Summary().LaidOut());
+  tool_.reset();
+  EXPECT_EQ(StoredList("Last."), "3.3 77.1 1.0");
 }
 
 TEST_F(WndElementTest, TheListThatIsWrittenIsThatOfTheRowsShownLast) {

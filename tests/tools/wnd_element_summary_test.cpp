@@ -173,6 +173,14 @@ TEST_F(WndElementTest, ATapBesideTheRowsChangesNothing) {
     shell_.Tap(Summary().Handle(), point);
     EXPECT_EQ(Summary().SelectedRow(), 1) << point.y;
   }
+  // The row below reaches from 96 to 110.
+  shell_.Tap(Summary().Handle(), {100, 95});
+  EXPECT_EQ(Summary().SelectedRow(), 1);
+  shell_.Tap(Summary().Handle(), {100, 96});
+  EXPECT_EQ(Summary().SelectedRow(), 2);
+  TapRow(1);
+  shell_.Tap(Summary().Handle(), {100, 109});
+  EXPECT_EQ(Summary().SelectedRow(), 2);
 }
 
 TEST_F(WndElementTest, TheKeyboardWalksTheSummary) {
@@ -201,6 +209,14 @@ TEST_F(WndElementTest, TheKeyboardWalksTheSummary) {
   EXPECT_EQ(Summary().CursorRow(), 5);
   for (int i = 0; i < 5; ++i) press(VK_DOWN, kControl);
   EXPECT_EQ(Summary().CursorRow(), 6);
+  // With its row the cursor goes.
+  press(VK_RETURN, {});
+  Command(40177);
+  EXPECT_EQ(Summary().CursorRow(), -1);
+  press(VK_RETURN, {});
+  EXPECT_EQ(Summary().SelectedRow(), 5);
+  press(VK_UP, kControl);
+  EXPECT_EQ(Summary().CursorRow(), 4);
 }
 
 TEST_F(WndElementTest, ALongSummaryScrolls) {

@@ -93,6 +93,15 @@ TEST_F(WndSeriesTest, ThePenTakesTheFocus) {
   EXPECT_EQ(GetDevice().Focus(), tool_->Handle());
 }
 
+TEST_F(WndSeriesTest, ThePenBringsItForward) {
+  Show();
+  auto over = MakeWindow<ZelWindow>(shell_, shell_.MainWindow(), true);
+  over->Show();
+  ASSERT_EQ(GetDevice().VisibleWindows().back(), over->Handle());
+  GetDevice().Send(tool_->Handle(), WM_LBUTTONDOWN, 0, PackPoint({5, 200}));
+  EXPECT_EQ(GetDevice().VisibleWindows().back(), tool_->Handle());
+}
+
 // --- Cells
 
 TEST_F(WndSeriesTest, HasTheTableOfCells) {
