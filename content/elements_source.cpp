@@ -24,17 +24,6 @@ constexpr std::size_t kFirstProperty = 2;  // behind the element's number and sy
 const char* const kHeaderKeys[] = {"category", "id", "name", "units", "plot", "source"};
 enum HeaderRow { kCategoryRow, kIdRow, kNameRow, kUnitsRow, kPlotRow, kSourceRow, kHeaderRows };
 
-// A decimal number of at most five digits, or -1.
-int SmallNumber(std::string_view text) {
-  if (text.empty() || text.size() > 5) return -1;
-  int value = 0;
-  for (const char c : text) {
-    if (c < '0' || c > '9') return -1;
-    value = value * 10 + (c - '0');
-  }
-  return value;
-}
-
 // Reads one table into a category, reporting as it goes.
 class CategoryReader : private TableReader {
  public:

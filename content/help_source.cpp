@@ -25,17 +25,6 @@ bool EndsWith(std::string_view text, std::string_view end) {
   return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
 }
 
-// A page id, or −1.
-int IdNumber(std::string_view text) {
-  if (text.empty() || text.size() > 5) return -1;
-  int value = 0;
-  for (const char c : text) {
-    if (c < '0' || c > '9') return -1;
-    value = value * 10 + (c - '0');
-  }
-  return value;
-}
-
 std::vector<std::string_view> LinesOf(std::string_view text) {
   std::vector<std::string_view> lines;
   while (!text.empty()) {
@@ -108,7 +97,8 @@ class PageReader {
     const std::string_view line = at_ < lines_.size() ? lines_[at_] : std::string_view();
     const bool stands = StartsWith(line, kIdStart) && EndsWith(line, kIdEnd);
     const int id =
-        stands ? IdNumber(line.substr(kIdStart.size(), line.size() - kIdStart.size() - kIdEnd.size())) : -1;
+        stands ? SmallNumber(line.substr(kIdStart.size(), line.size() - kIdStart.size() - kIdEnd.size()))
+               : -1;
     if (id < 0 || id >= HelpFile::kNoNeighbour) {
       return Add(at_, "after the title comes \"<!-- page N -->\" with an id from 0 to 9999");
     }

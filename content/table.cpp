@@ -37,4 +37,14 @@ Table ReadTable(std::string_view file, std::string_view content) {
   return table;
 }
 
+int SmallNumber(std::string_view text) {
+  if (text.empty() || text.size() > 5) return -1;
+  int value = 0;
+  for (const char c : text) {
+    if (c < '0' || c > '9') return -1;
+    value = value * 10 + (c - '0');
+  }
+  return value;
+}
+
 }  // namespace orvane

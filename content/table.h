@@ -34,4 +34,8 @@ struct Table {
 // cell is read.
 Table ReadTable(std::string_view file, std::string_view content);
 
+// A number as the sources write their ids and atomic numbers, in one to five decimal digits; −1 for any other
+// text.
+int SmallNumber(std::string_view text);
+
 }  // namespace orvane
