@@ -25,12 +25,14 @@ struct Example {
   std::string kind;
   std::string page;
   Text typed;
-  Text answer;  // without marks
+  Text answer;   // without marks
+  Text general;  // the answer of the last "balance" example above it on its page
 };
 
 std::vector<Example> Examples() {
   std::vector<Example> examples;
   for (const HelpPageSource& page : Manual().pages) {
+    Text general;
     for (const HelpBlock& block : page.blocks) {
       if (block.kind != HelpBlock::Kind::kExample) continue;
       for (const HelpLine& line : block.lines) {
@@ -38,7 +40,8 @@ std::vector<Example> Examples() {
         Text plain = PlainLine(answer);
         // A number is kept together by blanks at which no line breaks.
         std::replace(plain.begin(), plain.end(), u'\u00A0', u' ');
-        examples.push_back({block.example, page.file, line[0].text, std::move(plain)});
+        examples.push_back({block.example, page.file, line[0].text, plain, general});
+        if (block.example == "balance") general = plain;
       }
     }
   }
@@ -57,6 +60,66 @@ std::pair<Text, Text> SplitAt(TextView text, TextView mark) {
   EXPECT_NE(at, TextView::npos) << ToUtf8(text) << " without " << ToUtf8(mark);
   if (at == TextView::npos) return {};
   return {Text(text.substr(0, at)), Text(text.substr(at + mark.size()))};
+}
+
+std::vector<Text> Parts(TextView text, TextView separators) {
+  std::vector<Text> parts(1);
+  for (const Char c : text) {
+    if (separators.find(c) == TextView::npos) {
+      parts.back() += c;
+    } else {
+      parts.emplace_back();
+    }
+  }
+  return parts;
+}
+
+// The number at the front of a text, which is removed; 1 when there is none.
+int TakeFactor(TextView& text) {
+  int factor = 0;
+  bool stands = false;
+  for (; !text.empty() && text[0] >= u'0' && text[0] <= u'9'; text.remove_prefix(1)) {
+    factor = 10 * factor + (text[0] - u'0');
+    stands = true;
+  }
+  return stands ? factor : 1;
+}
+
+// "–3a+5b" for the free numbers "a=5,b=4".
+int Evaluate(TextView sum, TextView freeNumbers) {
+  int value = 0;
+  while (!sum.empty()) {
+    const bool minus = sum[0] == u'–';
+    if (minus || sum[0] == u'+') sum.remove_prefix(1);
+    const int factor = TakeFactor(sum) * (minus ? -1 : 1);
+    const std::size_t at = freeNumbers.find(Text(sum.substr(0, 1)) + u"=");
+    EXPECT_NE(at, TextView::npos) << ToUtf8(sum) << " of " << ToUtf8(freeNumbers);
+    if (at == TextView::npos || sum.empty()) return 0;
+    TextView number = freeNumbers.substr(at + 2);
+    value += factor * TakeFactor(number);
+    sum.remove_prefix(1);
+  }
+  return value;
+}
+
+// The coefficients of "A=2a+b;B=a+b" for these free numbers, without those that are 0.
+std::vector<int> CoefficientsOf(TextView general, TextView freeNumbers) {
+  std::vector<int> coefficients;
+  for (const Text& line : Parts(general, u";")) {
+    const int value = Evaluate(SplitAt(line, u"=").second, freeNumbers);
+    if (value != 0) coefficients.push_back(value);
+  }
+  return coefficients;
+}
+
+// The coefficients of "2C+O2=2CO".
+std::vector<int> CoefficientsIn(TextView equation) {
+  std::vector<int> coefficients;
+  for (const Text& substance : Parts(equation, u"+=")) {
+    TextView rest = substance;
+    coefficients.push_back(TakeFactor(rest));
+  }
+  return coefficients;
 }
 
 class ManualExample : public ::testing::TestWithParam<Example> {
@@ -156,6 +219,8 @@ TEST_P(ManualExample, IsTrue) {
     EXPECT_EQ(ToUtf8(WithoutBlanks(example.answer)), ToUtf8(WithoutBlanks(BalanceAnswer(example.typed))));
   } else if (example.kind == "solution") {
     ExpectBalanced(WithoutBlanks(example.answer));
+    EXPECT_EQ(CoefficientsIn(WithoutBlanks(example.answer)),
+              CoefficientsOf(WithoutBlanks(example.general), WithoutBlanks(example.typed)));
   } else if (example.kind == "filter") {
     EXPECT_EQ(ToUtf8(example.answer), ToUtf8(FilterAnswer(example.typed)));
   } else if (example.kind == "element") {
@@ -180,6 +245,20 @@ TEST(ManualExamples, AreThereOfEveryKind) {
   std::map<std::string, int> counts;
   for (const Example& example : Examples()) ++counts[example.kind];
   for (const std::string_view kind : kExampleKinds) EXPECT_GE(counts[std::string(kind)], 2) << kind;
+}
+
+// What the first page says of the size of the collections.
+TEST(ManualClaims, CountsOfTheWelcomePageAreRight) {
+  CollectingReporter reporter;
+  ConstantsDatabase constants(ORVANE_BIN_DIR "/constants.dat");
+  ASSERT_TRUE(constants.ReadCategories(reporter));
+  std::size_t count = 0;
+  EXPECT_TRUE(constants.LoadAll(reporter, [&count](int, const auto& groups) {
+    for (const ConstGroup& group : *groups) count += group.constants.size();
+  }));
+  EXPECT_GE(count, 950u) << "\"a thousand constants\"";
+  EXPECT_LT(count, 1100u) << "\"a thousand constants\"";
+  EXPECT_EQ(ElementsDatabase::kElementCount, 112);
 }
 
 }  // namespace
