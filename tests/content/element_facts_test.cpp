@@ -87,10 +87,9 @@ TEST(ReadFacts, ReadsPairsAndNamesWhatIsMalformed) {
   EXPECT_THAT(problems, ElementsAre("t:1: not the header of a table of facts"));
 }
 
-// Symbols, codes and what is written for this database have no figure to compare, and limits and groups of
-// hazard stand in one list alone.
+// Symbols, codes and what is written for this database have no figure to compare.
 bool RestsOnFacts(int id) {
-  const std::set<int> own = {0, 3, 4, 8, 10, 13, 14, 15, 33, 75, 76, 77, 78, 79, 80};
+  const std::set<int> own = {0, 3, 4, 8, 10, 13, 14, 15, 33, 75, 76, 77, 78};
   return own.count(id) == 0;
 }
 
