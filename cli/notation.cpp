@@ -23,25 +23,56 @@ TextView TakeNumber(TextView& text) {
   return number;
 }
 
-// Why a full stop is not read, with both ways to read it, for a text cut at the first one.
-std::string FullStopError(TextView before, TextView after) {
-  std::string error = "a full stop could be a hydrate dot or a decimal point; ";
-  std::size_t digits = 0;
-  while (digits < before.size() && IsAsciiDigit(before[before.size() - 1 - digits])) ++digits;
+// What a number with a decimal point would be: an index or a coefficient.
+struct WholeNumber {
+  const char* one;
+  const char* many;
+};
+constexpr WholeNumber kIndex{"an index", "indices"};
+constexpr WholeNumber kCoefficient{"a coefficient", "coefficients"};
+
+constexpr const char* kFullStop = "a full stop could be a hydrate dot or a decimal point; ";
+
+// Why a full stop is no decimal point, given the digits in front of it and the text behind it.
+std::string NoDecimalPoint(TextView digits, TextView after, const WholeNumber& kind) {
+  const TextView decimals = TakeNumber(after);
+  if (digits.empty() || decimals.empty()) {
+    return std::string("as a decimal point it would make ") + kind.one + " that is no whole number";
+  }
+  return PlainText(digits) + "." + PlainText(decimals) + " cannot be meant as " + kind.one + ", since " +
+         kind.many + " are whole numbers";
+}
+
+// Whether a hydrate dot in front of the text would have something to count.
+bool HasFormulaForDot(TextView after) {
+  after = Trimmed(after);
+  TakeNumber(after);
+  if (after.empty() || IsDot(after.front())) return false;
+  return TextView(u".)]").find(after.front()) == TextView::npos;
+}
+
+// Why a full stop is not read, with both ways to read it, for a text cut at the first one. `hasFormula` tells
+// whether a dot there would have something in front of it.
+std::string FullStopError(TextView before, TextView after, bool hasFormula) {
+  std::size_t count = 0;
+  while (count < before.size() && IsAsciiDigit(before[before.size() - 1 - count])) ++count;
+  const TextView digits = before.substr(before.size() - count);
   TextView rest = after;
   const TextView decimals = TakeNumber(rest);
-  const std::string number = PlainText(before.substr(before.size() - digits)) + "." + PlainText(decimals);
-  const bool isNumber = digits > 0 && !decimals.empty();
-  if (isNumber && digits < before.size() && IsDot(before[before.size() - 1 - digits])) {
-    return error + number + " behind a hydrate dot cannot be meant, since that number is a whole one";
+  if (!digits.empty() && !decimals.empty() && count < before.size() &&
+      IsDot(before[before.size() - 1 - count])) {
+    return kFullStop + PlainText(digits) + "." + PlainText(decimals) +
+           " behind a hydrate dot cannot be meant, since that number is a whole one";
   }
-  error += "write \"" + PlainText(before) + "*" + PlainText(after) + "\" if it is a hydrate dot";
-  if (isNumber) {
-    error += "; " + number + " cannot be meant as an index, since indices are whole numbers";
+  std::string error = kFullStop;
+  if (!hasFormula) {
+    error += "nothing stands before it that a hydrate dot could add to";
+  } else if (!HasFormulaForDot(after)) {
+    error += "nothing follows it that a hydrate dot could add";
   } else {
-    error += "; as a decimal point it would make an index that is no whole number";
+    error += "write \"" + PlainText(before) + "*" + PlainText(after) + "\" if it is a hydrate dot";
   }
-  return error;
+  return error + "; " + NoDecimalPoint(digits, after, kIndex);
 }
 
 // Writes the brackets that the calculators want while it walks through a formula.
@@ -54,7 +85,7 @@ class FormulaWriter {
         reading_.error = "a NUL character stands in it";
       } else if (c == u'.') {
         const auto before = static_cast<std::size_t>(rest.data() - formula.data());
-        reading_.error = FullStopError(formula.substr(0, before), rest.substr(1));
+        reading_.error = FullStopError(formula.substr(0, before), rest.substr(1), !NothingBefore());
       } else if (IsDot(c)) {
         rest = Trimmed(rest.substr(1));
         BeginHydrate(TakeNumber(rest));
@@ -77,6 +108,9 @@ class FormulaWriter {
     bool inHydrate = false;
     Text number;  // behind that dot
   };
+
+  // Whether the level, or its last dot, has only just begun.
+  bool NothingBefore() const { return reading_.text.size() == levels_.back().begin; }
 
   void Append(Char c) {
     if (c == u'(' || c == u'[') {
@@ -106,7 +140,7 @@ class FormulaWriter {
   }
 
   void BeginHydrate(TextView number) {
-    const bool nothingBefore = reading_.text.size() == levels_.back().begin;
+    const bool nothingBefore = NothingBefore();
     EndHydrate();
     if (!reading_.error.empty()) return;
     if (nothingBefore) {
@@ -163,7 +197,11 @@ Reading ReadSide(TextView typed) {
   for (;;) {
     const std::size_t plus = std::min(typed.find(u'+'), typed.size());
     TextView term = Trimmed(typed.substr(0, plus));
-    side.text += TakeNumber(term);
+    const TextView coefficient = TakeNumber(term);
+    if (!coefficient.empty() && term.starts_with(u'.')) {
+      return {{}, kFullStop + NoDecimalPoint(coefficient, term.substr(1), kCoefficient)};
+    }
+    side.text += coefficient;
     Reading formula = ReadFormula(term);
     if (!formula.error.empty()) return {{}, std::move(formula.error)};
     side.text += formula.text;

@@ -35,6 +35,17 @@ TEST(Notation, ReadsSidesTermByTerm) {
   EXPECT_EQ(ReadSide(u"h + 2·h").error, "nothing stands before the dot");
 }
 
+TEST(Notation, ACoefficientIsAWholeNumber) {
+  for (const TextView side : {u"h2 + 1.5o2", u"1.5 o2", u"h + 1 .5"}) {
+    EXPECT_EQ(ReadSide(side).error,
+              "a full stop could be a hydrate dot or a decimal point; 1.5 cannot be meant as a coefficient, "
+              "since coefficients are whole numbers");
+  }
+  EXPECT_EQ(ReadSide(u"1.o2").error,
+            "a full stop could be a hydrate dot or a decimal point; as a decimal point it would make a "
+            "coefficient that is no whole number");
+}
+
 TEST(Notation, PartsAnEquationAtItsSign) {
   for (const TextView text : {u"h2 + o2 = h2o", u"h2+o2->h2o", u"h2+o2 \u2192 h2o", u" h2 +o2= h2o\r"}) {
     const EquationReading reading = ReadEquation(text);
