@@ -199,7 +199,7 @@ TEST(CountElements, WalksATerm) {
       {u"(oh)2h", u"h", 3, 6},    {u"ca(oh)2", u"CA", 1, 6}, {u"((h2)3h)4", u"h", 28, 9},
       {u"(h)(h2)0h", u"h", 2, 9}, {u"3h2", u"h", 2, 3},      {u"h2+h7", u"h", 2, 2},
       {u"", u"h", 0, 0},          {u"+h", u"h", 0, 0},       {u"(h+h)", u"h", 1, 2},
-      {u"h2)h", u"h", 2, 3},      {u"(h2(h", u"h", 3, 5},
+      {u"h2)h", u"h", 2, 3},      {u"(h2(h", u"h", 3, 5},    {u"h1234o", u"h", 123, 4},
   };
   CollectingReporter reporter;
   for (const auto& c : cases) {

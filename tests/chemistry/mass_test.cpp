@@ -53,6 +53,7 @@ ElementTable ExampleElements() {
   elements.Add(u"Qi", u"99999999.5");
   elements.Add(u"Qj", u"123456789012345678901234567890.125");
   elements.Add(u"Qk", u"9.99999999");
+  elements.Add(u"Ql", u".5");
   return elements;
 }
 
@@ -95,6 +96,8 @@ TEST(Mass, IsWorkedOutDigitByDigit) {
       {u"()12", "00.0000000, 7"},
       {u"()123", "000.000000, 6"},
       {u"()012", "00.0000000, 7"},
+      {u"()010", "00.0000000, 7"},
+      {u"()100", "000.000000, 6"},
       {u"(())", "0.00000000, 8"},
       {u"(h2o)", "18.0153, 4"},
       {u"((((h2o))))", "18.0153, 4"},
@@ -120,6 +123,9 @@ TEST(Mass, IsWorkedOutDigitByDigit) {
       {u"qd10", "01.23456780, 8"},
       {u"qe", "0, 0"},
       {u"hqe", "1, 0"},
+      // A mass without a figure in front of its point: even the product with 1 gains one.
+      {u"ql", "0.5, 1"},
+      {u"ql1", "1, 0"},
       // Beyond a machine word.
       {u"qi", "99999999.5, 1"},
       {u"qi2", "199999999, 0"},
@@ -128,6 +134,8 @@ TEST(Mass, IsWorkedOutDigitByDigit) {
       {u"qj", "123456789012345678901234567890.125, 3"},
       {u"qj8", "987654312098765431209876543121.000, 3"},
       {u"qj10", "1234567890123456789012345678901.25, 2"},
+      {u"qjql", "123456789012345678901234567890.6, 1"},
+      {u"qjql1", "123456789012345678901234567891, 0"},
       {u"((((((h999)999)999)999)999)999)999", "1000905551497356740315, 0"},
   };
   for (const auto& [formula, expected] : cases) {
