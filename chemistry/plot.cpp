@@ -64,6 +64,7 @@ void Plot::SetView(const PlotView& view) {
 
 bool Plot::Pan(int dx, int dy) {
   if (IsEmpty() || (dx == 0 && dy == 0)) return false;
+  if (!std::isfinite(x_.Panned(dx).Span()) || !std::isfinite(y_.Panned(dy).Span())) return false;
   x_.Pan(dx);
   y_.Pan(dy);
   return true;

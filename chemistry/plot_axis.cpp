@@ -66,12 +66,20 @@ int PlotAxis::Place(double value) const {
 
 double PlotAxis::ValueAt(int place) const { return static_cast<double>(place + origin_) * span_ / length_; }
 
-void PlotAxis::Pan(int steps) {
+std::int64_t PlotAxis::OriginAfter(int steps) const {
   constexpr auto kFarthest = static_cast<std::int64_t>(kFarthestPosition);
-  origin_ = std::clamp(origin_ + steps, -kFarthest, kFarthest);
-  view_.low = static_cast<double>(origin_) * span_ / length_;
-  view_.high = view_.low + span_;
+  return std::clamp(origin_ + steps, -kFarthest, kFarthest);
+}
+
+PlotRange PlotAxis::Panned(int steps) const {
+  const double low = static_cast<double>(OriginAfter(steps)) * span_ / length_;
+  return {low, low + span_};
+}
+
+void PlotAxis::Pan(int steps) {
+  view_ = Panned(steps);
   drawn_ = view_;
+  origin_ = OriginAfter(steps);
 }
 
 PlotRange PlotAxis::Between(int place, int otherPlace) const {

@@ -49,6 +49,8 @@ class PlotAxis {
 
   // Moves the origin; the view follows from it, and its span does not change.
   void Pan(int steps);
+  // The view that Pan gives; at the end of the range of numbers its span is not finite.
+  PlotRange Panned(int steps) const;
 
   // Views that differ from what is drawn; none of these changes the axis.
   PlotRange Between(int place, int otherPlace) const;
@@ -61,6 +63,7 @@ class PlotAxis {
 
  private:
   void Rescale();
+  std::int64_t OriginAfter(int steps) const;
 
   int length_;
   double margin_;

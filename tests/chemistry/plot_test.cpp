@@ -176,6 +176,27 @@ TEST(PlotTest, TheWidestValuesKeepTheirPlaces) {
   EXPECT_TRUE(std::isfinite(plot.View().x.Span()));
 }
 
+// Where the next step would leave the range of numbers the plot stays as it is, and the way back is open.
+TEST(PlotTest, PanningEndsBeforeNumbersDo) {
+  for (const PlotRange& far :
+       {PlotRange{-1e307, 1.2e308}, PlotRange{1.6e308, 1.7e308}, PlotRange{-1e308, 5}}) {
+    Plot plot;
+    OracleElements().Build(plot);
+    PlotView view = plot.View();
+    view.x = far;
+    plot.SetView(view);
+    for (const int step : {240 * 100, -240 * 100, 100000000, -100000000}) {
+      plot.Pan(step, 0);
+      EXPECT_TRUE(std::isfinite(plot.View().x.Span())) << step;
+      EXPECT_TRUE(std::isfinite(plot.View().x.low)) << step;
+    }
+    plot.SetView(view);
+    EXPECT_FALSE(plot.Pan(100000000, 1));
+    EXPECT_EQ(plot.View(), view);
+    EXPECT_TRUE(plot.ZoomIn());
+  }
+}
+
 // The pen zooms for as long as neighbouring places have values of their own, and out again.
 TEST(PlotTest, ZoomingEndsBeforeNumbersDo) {
   Plot plot;
