@@ -13,7 +13,9 @@ constexpr Colour kNameColour = Rgb(128, 0, 0);
 constexpr int kNamePoints = 8;
 constexpr Rect kArea = Rect::At(0, 0, kPlotWidth, kPlotHeight);
 
-// A point is a circle of 4 × 4 about its place; its label stands on the circle.
+// A point is a circle of 4 × 4 about its place; its label stands on the circle. Its middle is a corner of the
+// pixel grid, while lines run through the middle of pixels: half a logical pixel apart, at every scale alike,
+// so that the picture shows the same at each.
 constexpr int kRadius = 2;
 // A point is drawn when this box about its place touches the area. It holds the circle and most of a label: a
 // label that only reaches in from the side comes with its point.

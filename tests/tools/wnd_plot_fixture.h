@@ -19,7 +19,8 @@ using Calls = std::vector<std::string>;
 // In client points of the plot; the tool stands 26 below the screen's top.
 class WndPlotTest : public ::testing::Test {
  protected:
-  WndPlotTest() : shell_({.recordRuns = true, .panelMode = PanelMode::kAlways}) {
+  explicit WndPlotTest(double scale = 1)
+      : shell_({.scale = scale, .recordRuns = true, .panelMode = PanelMode::kAlways}) {
     LoadPlotDatabase(elements_);
   }
 
@@ -33,8 +34,9 @@ class WndPlotTest : public ::testing::Test {
     Make();
     Show();
   }
-  // The five elements of the places, each at its place, with or without lines.
-  void MakeAndShowPlaces(bool lines = true) {
+  // The five elements of the places, with or without lines, in a view of 0..240 and these bounds: by default
+  // each stands at its place.
+  void StorePlaces(bool lines, double low = -268, double high = 0) {
     ZelRegistry& r = shell_.Settings();
     r.Open();
     r.WriteBool(u"wnd_plot.Cur.ShowLines", lines);
@@ -45,9 +47,12 @@ class WndPlotTest : public ::testing::Test {
     r.WriteString(u"wnd_plot.Cur.xFilter", u"");
     r.WriteDouble(u"wnd_plot.Cur.xcMin", 0);
     r.WriteDouble(u"wnd_plot.Cur.xcMax", 240);
-    r.WriteDouble(u"wnd_plot.Cur.ycMin", -268);
-    r.WriteDouble(u"wnd_plot.Cur.ycMax", 0);
+    r.WriteDouble(u"wnd_plot.Cur.ycMin", low);
+    r.WriteDouble(u"wnd_plot.Cur.ycMax", high);
     r.Close();
+  }
+  void MakeAndShowPlaces(bool lines = true) {
+    StorePlaces(lines);
     MakeAndShow();
     for (int i = 0; i < 5; ++i) ASSERT_EQ(GetPlot().PlaceOf(i), kPlaces[i]);
   }

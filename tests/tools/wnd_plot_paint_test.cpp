@@ -47,6 +47,41 @@ TEST_F(WndPlotTest, APointIsARedCircleOfFourPixelsOutlinedInBlack) {
   }
 }
 
+// Lines run through the middle of logical pixels, the middle of a circle of four is a corner between them:
+// half a pixel apart at every scale alike, so that a logical pixel shows the same at each.
+class WndPlotScaleTest : public WndPlotTest, public ::testing::WithParamInterface<int> {
+ protected:
+  WndPlotScaleTest() : WndPlotTest(GetParam()) {}
+};
+
+TEST_P(WndPlotScaleTest, PointsAndLinesKeepTheirPixelsAtEveryScale) {
+  // So high a view has all five at the same height.
+  StorePlaces(true, -1e9, 1e9);
+  MakeAndShow();
+  const int scale = GetParam();
+  const auto [x, y] = GetPlot().PlaceOf(0);
+  ASSERT_EQ((Point{x, y}), (Point{40, 134}));
+  ASSERT_EQ(GetPlot().PlaceOf(1), (Point{80, 134}));
+  const auto device = [&](int deviceX, int deviceY) { return shell_.Pixel({deviceX, deviceY + 26 * scale}); };
+  // The line has its row of logical pixels, all of it and no more.
+  for (int row = 0; row < scale; ++row) EXPECT_EQ(device(60 * scale, y * scale + row), kBluePixel);
+  EXPECT_EQ(device(60 * scale, y * scale - 1), kWhitePixel);
+  EXPECT_EQ(device(60 * scale, (y + 1) * scale), kWhitePixel);
+  // The circle touches the edges of its box and does not reach beyond them.
+  for (const int column : {x * scale - 1, x * scale}) {
+    EXPECT_TRUE(IsNear(device(column, (y - 2) * scale), kBlackPixel));
+    EXPECT_EQ(device(column, (y - 2) * scale - 1), kWhitePixel);
+    EXPECT_TRUE(IsNear(device(column, (y + 2) * scale - 1), kBlackPixel));
+    EXPECT_EQ(device(column, (y + 2) * scale), kWhitePixel);
+  }
+  EXPECT_TRUE(IsNear(device((x - 2) * scale, y * scale - 1), kBlackPixel));
+  EXPECT_EQ(device((x - 2) * scale - 1, y * scale - 1), kWhitePixel);
+  EXPECT_TRUE(IsNear(device((x + 2) * scale - 1, y * scale - 1), kBlackPixel));
+  EXPECT_EQ(device((x + 2) * scale, y * scale - 1), kWhitePixel);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, WndPlotScaleTest, ::testing::Values(1, 2, 3));
+
 TEST_F(WndPlotTest, NeighboursAreJoinedInBlue) {
   MakeAndShowPlaces();
   // (40, 60) to (80, 100): the diagonal. It begins on its first point and ends under its second.
@@ -143,6 +178,27 @@ TEST_F(WndPlotTest, PointsAtTheEdgeComeWithTheirBox) {
   Stroke({{200, 200}, {190, 200}, {199, 200}});  // by one more
   EXPECT_EQ(GetPlot().PlaceOf(0).x, -7);
   EXPECT_THAT(Texts(), Not(Contains(StartsWith("Element1 "))));
+  // On the other side, where half of so long a label would still show.
+  Stroke({{0, 200}, {253, 200}});
+  EXPECT_EQ(GetPlot().PlaceOf(0).x, 246);
+  EXPECT_THAT(Texts(), Contains(StartsWith("Element1 ")));
+  Stroke({{200, 200}, {190, 200}, {201, 200}});
+  EXPECT_EQ(GetPlot().PlaceOf(0).x, 247);
+  EXPECT_THAT(Texts(), Not(Contains(StartsWith("Element1 "))));
+}
+
+// Of a point below the plot the label shows while it reaches in; of one above, the lower edge of its circle.
+TEST_F(WndPlotTest, PointsAboveAndBelowComeWithWhatShowsOfThem) {
+  MakeAndShowPlaces(false);
+  Tap({40, 60});
+  Stroke({{200, 20}, {200, 20 + 221}});
+  EXPECT_EQ(GetPlot().PlaceOf(0).y, 281);
+  EXPECT_THAT(Texts(), Contains(StartsWith("Element1 ")));
+  Stroke({{200, 260}, {200, 0}});
+  Stroke({{200, 260}, {200, 260 - 22}});
+  EXPECT_EQ(GetPlot().PlaceOf(0).y, -1);
+  EXPECT_TRUE(IsNear(At(39, 0), kBlackPixel));
+  EXPECT_TRUE(IsNear(At(40, 0), kBlackPixel));
 }
 
 TEST_F(WndPlotTest, WithoutPointsOnlyTheNamesShow) {
