@@ -42,6 +42,21 @@ void Device::Parts::OpenFirstMenu() {
   }
 }
 
+// Alt and a digit press a button of the bar, counted from the left, its menus and separators left out: what
+// the pen reaches, the keyboard does too. A button that is disabled keeps its number.
+bool Device::Parts::PressButtonByKey(int key, Modifiers modifiers) {
+  if (modifiers != Modifiers{.alt = true} || key < '1' || key > '9') return false;
+  int number = '0';
+  for (const BarButtonPlace& place : layers.Bar().Places()) {
+    const bool plain =
+        place.button.style == ButtonStyle::kPush || place.button.style == ButtonStyle::kDropDown;
+    if (!plain || ++number != key) continue;
+    if (layers.Bar().Press(place.button.id)) layers.Popup().SelectFirst();
+    return true;
+  }
+  return false;
+}
+
 void Device::Parts::HandleKeyDown(int key, Modifiers modifiers, bool byPen) {
   keys.Down(key, modifiers);
   if (!byPen) lastPressWasTouch = false;
@@ -61,6 +76,7 @@ void Device::Parts::HandleKeyDown(int key, Modifiers modifiers, bool byPen) {
     OpenFirstMenu();
     return;
   }
+  if (PressButtonByKey(key, modifiers)) return;
   keys.RememberWindowSaw(key);
   Send(focus, WM_KEYDOWN, static_cast<WParam>(static_cast<std::uint32_t>(key)), 0);
 }

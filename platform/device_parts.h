@@ -55,6 +55,7 @@ struct Device::Parts {
   bool ChangeScaleByKey(int key, Modifiers modifiers);
   bool FireAccelerator(int key, Modifiers modifiers);
   void OpenFirstMenu();
+  bool PressButtonByKey(int key, Modifiers modifiers);
   void HandleClose();
 
   // Painting (device_paint.cpp).

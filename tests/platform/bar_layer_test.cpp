@@ -170,6 +170,34 @@ TEST(MenuBar, LeftAndRightGoFromMenuToMenu) {
   EXPECT_EQ(bed.Commands(bed.main), (std::vector<int>{11}));
 }
 
+TEST(MenuBar, AltAndADigitPressTheButtonsFromTheLeft) {
+  BarBed bed;
+  const auto press = [&](int key, Modifiers modifiers) {
+    bed.Get().KeyDown(key, modifiers);
+    bed.Get().KeyUp(key, modifiers);
+    bed.Step();
+  };
+  press('1', {.alt = true});
+  EXPECT_EQ(bed.Commands(bed.main), (std::vector<int>{40}));
+  press('2', {.alt = true});
+  EXPECT_EQ(bed.Of(WM_NOTIFY).size(), 1u);
+  // There is no third button, and these are no keys for the bar.
+  press('3', {.alt = true});
+  press('0', {.alt = true});
+  press('1', {});
+  press('1', {.shift = true, .alt = true});
+  press('1', {.control = true, .alt = true});
+  EXPECT_EQ(bed.Commands(bed.main).size(), 1u);
+  EXPECT_EQ(bed.Of(WM_NOTIFY).size(), 1u);
+  // A disabled button is not pressed, and the next one does not move up to its place.
+  bed.Bars().Enable(bed.bar, 40, false);
+  press('1', {.alt = true});
+  EXPECT_EQ(bed.Commands(bed.main).size(), 1u);
+  EXPECT_EQ(bed.Of(WM_NOTIFY).size(), 1u);
+  press('2', {.alt = true});
+  EXPECT_EQ(bed.Of(WM_NOTIFY).size(), 2u);
+}
+
 TEST(MenuBar, DisabledButtonsDoNothing) {
   BarBed bed;
   bed.Bars().Enable(bed.bar, 40, false);
