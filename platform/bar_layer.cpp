@@ -19,6 +19,9 @@ constexpr int kDropDownIconLeft = 1;
 constexpr int kArrowReach = 3;
 constexpr Point kArrow{17, 12};
 
+// Menus open under the pen as it goes down; the other buttons act where it lifts.
+bool WaitsForLift(ButtonStyle style) { return style == ButtonStyle::kPush || style == ButtonStyle::kCheck; }
+
 }  // namespace
 
 Rect MenuBarArea::PanelButtonRect() const {
@@ -119,6 +122,7 @@ void MenuBarArea::Activate(int position) {
       OpenMenu(position);
       return;
     case ButtonStyle::kPush:
+    case ButtonStyle::kCheck:
       device_.Post(owner, WM_COMMAND, PackCommand(id, 0));
       return;
     case ButtonStyle::kDropDown:
@@ -142,7 +146,7 @@ void MenuBarArea::PenDown(Point point) {
     const int position = PositionAt(point);
     if (!CanPress(position)) return;
     pressed_ = position;
-    if (ButtonAt(position)->style != ButtonStyle::kPush) Activate(position);
+    if (!WaitsForLift(ButtonAt(position)->style)) Activate(position);
   }
   Changed();
 }
@@ -167,8 +171,8 @@ void MenuBarArea::PenUp(Point point) {
     return;
   }
   if (device_.Popups().Open()) return device_.Popups().LiftPen(point);
-  const bool push = CanPress(position) && ButtonAt(position)->style == ButtonStyle::kPush;
-  if (push && PositionAt(point) == position) Activate(position);
+  const bool waits = CanPress(position) && WaitsForLift(ButtonAt(position)->style);
+  if (waits && PositionAt(point) == position) Activate(position);
 }
 
 // --- From the open menu

@@ -1,5 +1,5 @@
 // The menu bars at the bottom of the screen. Any number exist; the one shown last is drawn. A bar sends its
-// owner WM_COMMAND for a push button and for a chosen menu entry, WM_NOTIFY for a drop-down button.
+// owner WM_COMMAND for a push or check button and for a chosen menu entry, WM_NOTIFY for a drop-down button.
 #pragma once
 
 #include <memory>
@@ -14,7 +14,9 @@ namespace orvane {
 using BarHandle = int;
 inline constexpr BarHandle kNoBar = 0;
 
-enum class ButtonStyle { kPush = 0, kSeparator = 1, kDropDown = 8, kMenu = 0x100 };
+// A check button is pressed like a push button and stands for a choice that is on or off; its owner sets the
+// checked state.
+enum class ButtonStyle { kPush = 0, kSeparator = 1, kCheck = 2, kDropDown = 8, kMenu = 0x100 };
 
 // A button's state bits: enabled and pressed ("checked"), with their usual values.
 inline constexpr int TBSTATE_CHECKED = 1;

@@ -48,6 +48,8 @@ std::string_view StyleName(ButtonStyle style) {
   switch (style) {
     case ButtonStyle::kSeparator:
       return "separator";
+    case ButtonStyle::kCheck:
+      return "check";
     case ButtonStyle::kDropDown:
       return "dropdown";
     case ButtonStyle::kMenu:

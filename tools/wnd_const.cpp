@@ -186,8 +186,8 @@ void wnd_const::OnBeforeShow() {
   if (loadFailed_) return;
   shell.AddBarButton(kCategoryButton, kCategoryImage, -1, TBSTATE_ENABLED, ButtonStyle::kDropDown);
   shell.AddBarButton(0, 0, -1, TBSTATE_ENABLED, ButtonStyle::kSeparator);
-  shell.AddBarButton(kTitleButton, kTitleImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
-  shell.AddBarButton(kStripButton, kStripImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
+  shell.AddBarButton(kTitleButton, kTitleImage, -1, TBSTATE_ENABLED, ButtonStyle::kCheck);
+  shell.AddBarButton(kStripButton, kStripImage, -1, TBSTATE_ENABLED, ButtonStyle::kCheck);
   shell.AddBarButton(kFoldButton, kFoldImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);
   shell.AddBarButton(0, 0, -1, TBSTATE_ENABLED, ButtonStyle::kSeparator);
   shell.AddBarButton(kHelpButton, kHelpImage, -1, TBSTATE_ENABLED, ButtonStyle::kPush);

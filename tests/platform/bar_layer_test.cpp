@@ -256,6 +256,23 @@ TEST(MenuBar, CheckedButtonsAreMarked) {
   EXPECT_EQ(bed.host.Pixel(71, 300), 0xF0FAFFu);
 }
 
+TEST(MenuBar, ACheckButtonActsOnLiftAndLeavesItsStateToItsOwner) {
+  BarBed bed;
+  BarButton check = Push(42);
+  check.style = ButtonStyle::kCheck;
+  bed.Bars().Insert(bed.bar, kPushAt + 1, check);
+  const Point button = ButtonPoint(bed, kPushAt + 1);
+  bed.Get().PenDown(button);
+  bed.Step();
+  EXPECT_TRUE(bed.Commands(bed.main).empty());
+  bed.Get().PenUp({100, 100});
+  bed.Step();
+  EXPECT_TRUE(bed.Commands(bed.main).empty());
+  bed.Tap(button);
+  EXPECT_EQ(bed.Commands(bed.main), (std::vector<int>{42}));
+  EXPECT_EQ(bed.Bars().Places()[kPushAt + 1].button.state, TBSTATE_ENABLED);
+}
+
 TEST(MenuBar, ThePanelButtonRaisesAndLowersThePanel) {
   BarBed bed;
   bed.Tap({227, 307});

@@ -38,8 +38,8 @@ TEST_F(WndConstTest, ShowingAddsTheButtonsSetsTheTopicAndLowersTheInputPanel) {
   EXPECT_FALSE(GetDevice().Panel().Visible());
   EXPECT_EQ(shell_.buttons, (std::vector<AddedButton>{{8820, 20, -1, TBSTATE_ENABLED, ButtonStyle::kDropDown},
                                                       {0, 0, -1, TBSTATE_ENABLED, ButtonStyle::kSeparator},
-                                                      {8821, 12, -1, TBSTATE_ENABLED, ButtonStyle::kPush},
-                                                      {8822, 13, -1, TBSTATE_ENABLED, ButtonStyle::kPush},
+                                                      {8821, 12, -1, TBSTATE_ENABLED, ButtonStyle::kCheck},
+                                                      {8822, 13, -1, TBSTATE_ENABLED, ButtonStyle::kCheck},
                                                       {8823, 14, -1, TBSTATE_ENABLED, ButtonStyle::kPush},
                                                       {0, 0, -1, TBSTATE_ENABLED, ButtonStyle::kSeparator},
                                                       {8824, 15, -1, TBSTATE_ENABLED, ButtonStyle::kPush}}));

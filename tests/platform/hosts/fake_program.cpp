@@ -131,7 +131,7 @@ void FakeProgram::MakeBar() {
   const BarButton push{kPushId, 3, ButtonStyle::kPush, TBSTATE_ENABLED, u"", {}};
   const BarButton disabled{kDisabledId, 4, ButtonStyle::kPush, 0, u"", {}};
   const BarButton dropDown{kDropDownId, 5, ButtonStyle::kDropDown, TBSTATE_ENABLED, u"", {}};
-  const BarButton checked{kCheckedId, 6, ButtonStyle::kPush, TBSTATE_ENABLED | TBSTATE_CHECKED, u"", {}};
+  const BarButton checked{kCheckedId, 6, ButtonStyle::kCheck, TBSTATE_ENABLED | TBSTATE_CHECKED, u"", {}};
   bar_ = device_.Bars().Create(main_, 0, {app, closed, separator, push, disabled, dropDown, checked});
   device_.Bars().Show(bar_, true);
 }

@@ -166,6 +166,7 @@ TEST(PlayReport, ShowsTheBar) {
   EXPECT_EQ(bar[3]["pressed"], false);
   EXPECT_EQ(bar[4]["enabled"], false);
   EXPECT_EQ(bar[5]["style"], "dropdown");
+  EXPECT_EQ(bar[6]["style"], "check");
   EXPECT_EQ(bar[6]["pressed"], true);
   EXPECT_EQ(bar[0]["x"], 0);
   EXPECT_EQ(bar[0]["y"], 294);
