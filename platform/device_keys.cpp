@@ -48,9 +48,8 @@ bool Device::Parts::PressButtonByKey(int key, Modifiers modifiers) {
   if (modifiers != Modifiers{.alt = true} || key < '1' || key > '9') return false;
   int number = '0';
   for (const BarButtonPlace& place : layers.Bar().Places()) {
-    const bool plain =
-        place.button.style == ButtonStyle::kPush || place.button.style == ButtonStyle::kDropDown;
-    if (!plain || ++number != key) continue;
+    const ButtonStyle style = place.button.style;
+    if (style == ButtonStyle::kSeparator || style == ButtonStyle::kMenu || ++number != key) continue;
     if (layers.Bar().Press(place.button.id)) layers.Popup().SelectFirst();
     return true;
   }

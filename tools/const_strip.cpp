@@ -19,8 +19,6 @@ constexpr int kAroundText = 6;  // above and below the text
 ConstStrip::ConstStrip(Shell& shell, WindowHandle parent, int closeCommand)
     : ZelPanel(shell, parent, false), closeCommand_(closeCommand) {
   background = kWhite;
-  // The content is as wide as the text, which begins at the inset: the same again is left behind its end.
-  marginX = 2 * kTextPlace.x;
   CreateFontFamily(GetDevice(), Handle(), font_, u"Courier New", kTextPoints, kShiftedPoints, kShiftedPoints,
                    0, 0, false, false);
   SetContent({});
@@ -32,6 +30,9 @@ void ConstStrip::SetContent(Text text) {
   engine.SelectFontFamily(&font_);
   const Size size = engine.MeasureText(content_);
   contentWidth = std::max(kLeastWidth, size.width);
+  // The content is as wide as the text, which begins at the inset: where it does not fit, the same again is
+  // left behind its end.
+  marginX = kTextPlace.x + size.width > kLeastWidth ? 2 * kTextPlace.x : 0;
   contentHeight = size.height + kAroundText;
   scrollX = scrollY = 0;
   Redraw();

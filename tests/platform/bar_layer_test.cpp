@@ -271,6 +271,9 @@ TEST(MenuBar, ACheckButtonActsOnLiftAndLeavesItsStateToItsOwner) {
   bed.Tap(button);
   EXPECT_EQ(bed.Commands(bed.main), (std::vector<int>{42}));
   EXPECT_EQ(bed.Bars().Places()[kPushAt + 1].button.state, TBSTATE_ENABLED);
+  bed.Get().KeyDown('2', {.alt = true});  // 40 is the first
+  bed.Step();
+  EXPECT_EQ(bed.Commands(bed.main), (std::vector<int>{42, 42}));
 }
 
 TEST(MenuBar, ThePanelButtonRaisesAndLowersThePanel) {

@@ -203,6 +203,18 @@ TEST_F(WndConstTest, TheStripScrollsWhatIsWiderAndHigherThanItself) {
   EXPECT_EQ(Strip().contentWidth, 800);
 }
 
+TEST_F(WndConstTest, TheStripMovesSidewaysOnlyForATextThatDoesNotFit) {
+  MakeAndShow();
+  Strip().SetContent(Text(29, u'8'));  // 232 pixels from x = 8: up to the edge
+  Strip().ScrollBy(100, 0);
+  EXPECT_EQ(Strip().scrollX, 0);
+  Strip().SetContent(Text(30, u'8'));
+  Strip().ScrollBy(100, 0);
+  EXPECT_EQ(Strip().scrollX, 16);
+  Strip().SetContent(u"42");
+  EXPECT_EQ(Strip().scrollX, 0);
+}
+
 TEST_F(WndConstTest, TheStripDrawsItsTextUnderASeparator) {
   MakeAndShow();
   TapRow(0, 1);
